@@ -1,0 +1,41 @@
+# How every target of the project is compiled, and the two ways of declaring one.
+
+add_library(vemo_options INTERFACE)
+target_include_directories(vemo_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(vemo_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    # g++ 12 warns of overlapping copies inside its own std::string::operator+.
+    target_compile_options(vemo_options INTERFACE -Wno-restrict)
+endif()
+if(VEMO_SANITIZE OR VEMO_FUZZ)
+    target_compile_options(vemo_options INTERFACE -fsanitize=address,undefined
+        -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(vemo_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(VEMO_FUZZ)
+    target_compile_options(vemo_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+# vemo_library(NAME SOURCES ... [DEPENDS other folders' libraries])
+function(vemo_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+    add_library(vemo_${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(vemo_${name} PUBLIC vemo_options)
+    foreach(dependency ${ARG_DEPENDS})
+        target_link_libraries(vemo_${name} PUBLIC vemo_${dependency})
+    endforeach()
+endfunction()
+
+# vemo_test(NAME SOURCES ... DEPENDS libraries): one GoogleTest program, its tests listed one by one.
+function(vemo_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    target_compile_definitions(${name} PRIVATE
+        VEMO_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data" VEMO_ASSETS="${CMAKE_SOURCE_DIR}/assets")
+    foreach(dependency ${ARG_DEPENDS})
+        target_link_libraries(${name} PRIVATE vemo_${dependency})
+    endforeach()
+    target_link_libraries(${name} PRIVATE GTest::gtest GTest::gtest_main)
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60)
+endfunction()

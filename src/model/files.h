@@ -1,0 +1,65 @@
+// The game's files in the data folder: puzzles and saved progress by level, and the statistics.
+//
+// Records are numbered from 1. Every call opens a file, reads or writes once, and closes it.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "model/records.h"
+#include "platform/files.h"
+
+namespace vemo {
+
+// The name of a level's puzzle file: "Sudoku_Easy.sds".
+std::string PuzzleFileName(int level);
+
+class RecordFiles {
+  public:
+    RecordFiles(Files& files, std::filesystem::path dataFolder);
+
+    const std::filesystem::path& DataFolder() const { return folder_; }
+    std::filesystem::path PuzzlePath(int level) const;
+    std::filesystem::path ProgressPath(int level) const;
+    std::filesystem::path StatisticsPath() const;
+
+    // Makes the data folder and copies each puzzle file that is missing there. What cannot be
+    // copied stays missing.
+    void InstallShippedPuzzles(const std::filesystem::path& programFolder);
+
+    // Whole records in the level's puzzle file; 0 where it is missing.
+    int PuzzleCount(int level);
+
+    // Nothing where the file has no such record or cannot be read.
+    std::optional<PuzzleRecord> ReadPuzzle(int level, int number);
+    std::optional<FileError> WritePuzzle(int level, int number, const PuzzleRecord& record);
+
+    // Gives every puzzle of the level the best time 0:00, in one replacement of the file.
+    std::optional<FileError> EraseBestTimes(int level);
+
+    // A record past the end, or in a missing file, is the empty play state.
+    PlayState ReadPlayState(int level, int number);
+    std::optional<FileError> WritePlayState(int level, int number, const PlayState& state);
+
+    // A new progress file for the level: `count` empty play states.
+    std::optional<FileError> CreateProgressFile(int level, int count);
+
+    // A new puzzle after the last one, its empty play state under the same number; `number` is
+    // where it went.
+    struct SavedPuzzle {
+        int number = 0;
+        std::optional<FileError> error;
+    };
+    SavedPuzzle SaveSudoku(int level, const PuzzleRecord& record);
+
+    // A record past the end, or in a missing file, is all zero.
+    LevelStatistics ReadStatistics(int level);
+    std::optional<FileError> WriteStatistics(int level, const LevelStatistics& statistics);
+
+  private:
+    Files& files_;
+    std::filesystem::path folder_;
+};
+
+}  // namespace vemo

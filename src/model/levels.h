@@ -1,0 +1,26 @@
+// The nine levels.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace vemo {
+
+// A level is 1..9; 0 stands for "none yet".
+inline constexpr int kLevels = 9;
+inline constexpr int kOutlaw = 9;
+
+// The levels on which the simple display and the simple hints can be chosen.
+inline constexpr int kLastSimpleLevel = 3;
+
+inline constexpr std::array<std::string_view, kLevels> kLevelNames = {
+    "Easy", "Medium", "Hard", "Crazy", "Insane", "Kamikaze", "Extreme", "Mayhem", "Outlaw"};
+
+constexpr bool IsLevel(int level) {
+    return level >= 1 && level <= kLevels;
+}
+constexpr std::string_view LevelName(int level) {
+    return kLevelNames[static_cast<std::size_t>(level - 1)];
+}
+
+}  // namespace vemo

@@ -1,0 +1,150 @@
+// Files on the standard library alone.
+#include "platform/plain_files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <ios>
+#include <system_error>
+
+namespace vemo {
+namespace {
+
+namespace fs = std::filesystem;
+
+FileError ErrorOf(const fs::path& path, const char* deed) {
+    const int code = errno;
+    return {path, std::string(deed) + (code != 0 ? std::string(": ") + std::strerror(code) : "")};
+}
+
+std::span<const char> AsChars(std::span<const std::uint8_t> bytes) {
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+// A stream without a buffer of its own hands each write to the system as one call.
+bool OpenUnbuffered(std::fstream& file, const fs::path& path, std::ios::openmode mode) {
+    file.rdbuf()->pubsetbuf(nullptr, 0);
+    errno = 0;
+    file.open(path, mode | std::ios::binary);
+    return file.is_open();
+}
+
+std::optional<FileError> WriteAll(std::fstream& file, const fs::path& path,
+                                  std::span<const std::uint8_t> bytes) {
+    const std::span<const char> chars = AsChars(bytes);
+    errno = 0;
+    file.write(chars.data(), static_cast<std::streamsize>(chars.size()));
+    file.flush();
+    const bool written = file.good();
+    file.close();
+    if (!written || file.fail()) {
+        return ErrorOf(path, "cannot be written");
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::uint64_t> PlainFiles::Size(const fs::path& path) {
+    std::error_code error;
+    if (!fs::is_regular_file(path, error)) {
+        return std::nullopt;
+    }
+    const std::uintmax_t size = fs::file_size(path, error);
+    if (error) {
+        return std::nullopt;
+    }
+    return size;
+}
+
+std::optional<Bytes> PlainFiles::ReadAt(const fs::path& path, std::uint64_t offset,
+                                        std::size_t length) {
+    const std::optional<std::uint64_t> size = Size(path);
+    std::ifstream file(path, std::ios::binary);
+    if (!size || !file) {
+        return std::nullopt;
+    }
+    Bytes bytes;
+    if (offset >= *size) {
+        return bytes;
+    }
+    bytes.resize(static_cast<std::size_t>(std::min<std::uint64_t>(length, *size - offset)));
+    file.seekg(static_cast<std::streamoff>(offset));
+    file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    if (file.bad()) {
+        return std::nullopt;
+    }
+    bytes.resize(static_cast<std::size_t>(file.gcount()));
+    return bytes;
+}
+
+std::optional<FileError> PlainFiles::WriteAt(const fs::path& path, std::uint64_t offset,
+                                             std::span<const std::uint8_t> bytes) {
+    std::fstream file;
+    if (!OpenUnbuffered(file, path, std::ios::in | std::ios::out)) {
+        // Opening for reading and writing makes no file; appending makes one and cuts none.
+        std::fstream maker;
+        if (Size(path) || !OpenUnbuffered(maker, path, std::ios::out | std::ios::app)) {
+            return ErrorOf(path, "cannot be opened for writing");
+        }
+        maker.close();
+        if (!OpenUnbuffered(file, path, std::ios::in | std::ios::out)) {
+            return ErrorOf(path, "cannot be opened for writing");
+        }
+    }
+    file.seekp(static_cast<std::streamoff>(offset));
+    if (!file.good()) {
+        return ErrorOf(path, "cannot be written");
+    }
+    return WriteAll(file, path, bytes);
+}
+
+std::optional<FileError> PlainFiles::Replace(const fs::path& path,
+                                             std::span<const std::uint8_t> bytes) {
+    fs::path beside = path;
+    beside += ".new";
+    std::error_code error;
+    std::fstream file;
+    if (!OpenUnbuffered(file, beside, std::ios::out | std::ios::trunc)) {
+        return ErrorOf(path, "cannot be written");
+    }
+    if (std::optional<FileError> failed = WriteAll(file, path, bytes)) {
+        fs::remove(beside, error);
+        return failed;
+    }
+    fs::rename(beside, path, error);
+    if (error) {
+        const FileError failed{path, "cannot be replaced: " + error.message()};
+        fs::remove(beside, error);
+        return failed;
+    }
+    return std::nullopt;
+}
+
+std::optional<FileError> PlainFiles::CopyIfMissing(const fs::path& from, const fs::path& to) {
+    std::error_code error;
+    if (fs::exists(to, error)) {
+        return std::nullopt;
+    }
+    const std::optional<std::uint64_t> size = Size(from);
+    if (!size) {
+        return FileError{from, "does not exist"};
+    }
+    const std::optional<Bytes> content = ReadAt(from, 0, static_cast<std::size_t>(*size));
+    if (!content || content->size() != *size) {
+        return FileError{from, "cannot be read"};
+    }
+    return Replace(to, *content);
+}
+
+std::optional<FileError> PlainFiles::MakeFolder(const fs::path& path) {
+    std::error_code error;
+    fs::create_directories(path, error);
+    if (error) {
+        return FileError{path, "cannot be made: " + error.message()};
+    }
+    return std::nullopt;
+}
+
+}  // namespace vemo

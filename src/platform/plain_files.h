@@ -1,0 +1,22 @@
+// Files on the standard library alone.
+#pragma once
+
+#include "platform/files.h"
+
+namespace vemo {
+
+class PlainFiles final : public Files {
+  public:
+    std::optional<std::uint64_t> Size(const std::filesystem::path& path) override;
+    std::optional<Bytes> ReadAt(const std::filesystem::path& path, std::uint64_t offset,
+                                std::size_t length) override;
+    std::optional<FileError> WriteAt(const std::filesystem::path& path, std::uint64_t offset,
+                                     std::span<const std::uint8_t> bytes) override;
+    std::optional<FileError> Replace(const std::filesystem::path& path,
+                                     std::span<const std::uint8_t> bytes) override;
+    std::optional<FileError> CopyIfMissing(const std::filesystem::path& from,
+                                           const std::filesystem::path& to) override;
+    std::optional<FileError> MakeFolder(const std::filesystem::path& path) override;
+};
+
+}  // namespace vemo

@@ -1,0 +1,302 @@
+// The rows of the technique catalogue.
+#include "solver/catalogue.h"
+
+#include <cassert>
+
+#include "model/levels.h"
+
+namespace vemo {
+namespace {
+
+constexpr std::array<Slot, kSlots> kSlotRows = {{
+    {"Bad Solved Cell", "Error indication"},           // 0
+    {"Missing Candidate", "Error indication"},         // 1
+    {"Solved Cell Exclusion", "Candidate"},            // 2
+    {"Hidden Single", "Easy level"},                   // 3
+    {"Naked Single", "Easy level"},                    // 4
+    {"Pointing Pair/Triple", "Medium level"},          // 5
+    {"Box-Line Reduction", "Medium level"},            // 6
+    {"Naked/Hidden Subset", "Hard level"},             // 7
+    {"X-Wing", "Crazy level"},                         // 8
+    {"Swordfish", "Crazy level"},                      // 9
+    {"Multi-value X-Wing", "Crazy level"},             // 10
+    {"Empty Rectangle", "Crazy level"},                // 11
+    {"XY-Wing", "Insane level"},                       // 12
+    {"Two-String Kite", "Insane level"},               // 13
+    {"Skyscraper", "Insane level"},                    // 14
+    {"XYZ-Wing", "Insane level"},                      // 15
+    {"Simple Colors", "Insane level"},                 // 16
+    {"Jellyfish", "Kamikaze level"},                   // 17
+    {"WXYZ-Wing", "Kamikaze level"},                   // 18
+    {"Multi Colors", "Kamikaze level"},                // 19
+    {"Finned X-Wing", "Kamikaze level"},               // 20
+    {"3D Medusa", "Kamikaze level"},                   // 21
+    {"Sue-de-Coq", "Kamikaze level"},                  // 22
+    {"Aligned Pair Exclusion", "Kamikaze level"},      // 23
+    {"Unique Rectangle", "Kamikaze level"},            // 24
+    {"Avoidable Rectangle", "Kamikaze level"},         // 25
+    {"Extended APE", "Kamikaze level"},                // 26
+    {"Bivalue Universal Grave +1", "Kamikaze level"},  // 27
+    {"Short Nice Loops", "Kamikaze level"},            // 28
+    {"Short AIC's", "Extreme level"},                  // 29
+    {"XY-Chain", "Extreme level"},                     // 30
+    {"Aligned Triple Exclusion", "Extreme level"},     // 31
+    {"Long Nice Loops", "Extreme level"},              // 32
+    {"Medium AIC's", "Extreme level"},                 // 33
+    {"ALS - XZ", "Mayhem level"},                      // 34
+    {"MultiFish", ""},                                 // 35
+    {"Forcing Chain", ""},                             // 36
+    {"Extended ATE", "Mayhem level"},                  // 37
+    {"Long AIC's", "Mayhem level"},                    // 38
+    {"Bifurcation", ""},                               // 39
+}};
+
+// Kept: the level of a row counts for the rating, also where the slot's tooltip names another one
+// (slots 29 and 34).
+// clang-format off
+constexpr Step kStepRows[] = {
+    {3, HiddenSingle, {}, 1, {HintKind::HiddenSingle},
+     "Scanning for Hidden Single - Please be patient", " - Scanning for Hidden Single", 10},
+    {4, NakedSingle, {}, 1, {HintKind::NakedSingle},
+     "Scanning for Naked Single - Please be patient", " - Scanning for Naked Single", 10},
+    {5, PointingPair, {}, 2, {HintKind::PointingPair},
+     "Scanning for Pointing Pair - Please be patient", " - Scanning for Pointing Pair", 15},
+    {6, BoxLine, {}, 2, {HintKind::BoxLine},
+     "Scanning for Box Line Reduction - Please be patient", " - Scanning for Box/Line Reduction", 15},
+    {7, NakedHidden, {.naked = true, .size = 2}, 3, {HintKind::Subset},
+     "Scanning for Naked Pair - Please be patient", " - Scanning for Naked Pair", 15},
+    {7, NakedHidden, {.naked = true, .size = 3}, 3, {HintKind::Subset},
+     "Scanning for Naked Triple - Please be patient", " - Scanning for Naked Triple", 20},
+    {7, NakedHidden, {.naked = false, .size = 2}, 3, {HintKind::Subset},
+     "Scanning for Hidden Pair - Please be patient", " - Scanning for Hidden Pair", 25},
+    {7, NakedHidden, {.naked = true, .size = 4}, 3, {HintKind::Subset},
+     "Scanning for Naked Quad - Please be patient", " - Scanning for Naked Quad", 30},
+    {7, NakedHidden, {.naked = false, .size = 3}, 3, {HintKind::Subset},
+     "Scanning for Hidden Triple - Please be patient", " - Scanning for Hidden Triple", 35},
+    {7, NakedHidden, {.naked = true, .size = 5}, 3, {HintKind::Subset},
+     "Scanning for Naked Quint - Please be patient", " - Scanning for Naked Quint", 40},
+    {8, nullptr, {}, 4, {HintKind::XWing},
+     "Scanning for X-Wing - Please be patient", " - Scanning for X-Wing", 40},
+    {9, nullptr, {}, 4, {HintKind::Swordfish},
+     "Scanning for Swordfish - Please be patient", " - Scanning for Swordfish", 45},
+    {10, nullptr, {}, 4, {HintKind::MultiXWing},
+     "Scanning for Multi-value X-Wing - Please be patient", " - Scanning for Multi-value X-Wing", 45},
+    {11, nullptr, {}, 4, {HintKind::EmptyRectangle},
+     "Scanning for Empty Rectangle - Please be patient", " - Scanning for Empty Rectangle", 50},
+    {12, nullptr, {}, 5, {HintKind::XYWing},
+     "Scanning for XY-Wing - Please be patient", " - Scanning for XY-Wing", 55},
+    {13, nullptr, {}, 5, {HintKind::TwoStringKite},
+     "Scanning for Two-String Kite - Please be patient", " - Scanning for Two String Kite", 55},
+    {14, nullptr, {}, 5, {HintKind::Skyscraper},
+     "Scanning for Skyscraper - Please be patient", " - Scanning for Skyscraper", 55},
+    {15, nullptr, {}, 5, {HintKind::XYZWing},
+     "Scanning for XYZ-Wing - Please be patient", " - Scanning for XYZ-Wing", 60},
+    {16, nullptr, {}, 5, {HintKind::ColorTrap, HintKind::ColorWrap},
+     "Scanning for Simple Colors - Please be patient", " - Scanning for Simple-Colour", 65},
+    {17, nullptr, {}, 6, {HintKind::Jellyfish},
+     "Scanning for Jellyfish - Please be patient", " - Scanning for Jellyfish", 70},
+    {18, nullptr, {}, 6, {HintKind::WXYZWing},
+     "Scanning for WXYZ-Wing - Please be patient", " - Scanning for WXYZ-Wing", 70},
+    {19, nullptr, {}, 6, {HintKind::MultiColor1, HintKind::MultiColor2},
+     "Scanning for MultiColor - Please be patient", " - Scanning for Multi-Colour", 80},
+    {20, nullptr, {}, 6, {HintKind::FinnedXWing},
+     "Scanning for Finned X-Wing - Please be patient", " - Scanning for Finned X-Wing", 80},
+    {21, nullptr, {}, 6, {HintKind::Medusa},
+     "Scanning for 3D Medusa - Please be patient", " - Scanning for 3D Medusa", 85},
+    {22, nullptr, {}, 6, {HintKind::SueDeCoq},
+     "Scanning for Sue-De-Coq - Please be patient", " - Scanning for Sue-De-Coq", 85},
+    {23, nullptr, {}, 6, {HintKind::PairExclusion},
+     "Scanning for (Aligned) Pair Exclusion - Please be patient", " - Scanning for (Aligned) Pair Exclusion", 90},
+    {24, nullptr, {}, 6, {HintKind::UniqueRectangle},
+     "Scanning for Unique Rectangle - Please be patient", " - Scanning for Unique Rectangle", 90},
+    {25, nullptr, {}, 6, {HintKind::AvoidableRectangle},
+     "Scanning for Avoidable Rectangle - Please be patient", " - Scanning for Avoidable Rectangle", 90},
+    {26, nullptr, {}, 6, {HintKind::PairExclusion},
+     "Scanning for Extended Aligned Pair Exclusion - Please be patient", " - Scanning for Extended Aligned Pair Exclusion", 95},
+    {27, nullptr, {}, 6, {HintKind::BivalueGrave},
+     "Scanning for Bivalue Universal Grave - Please be patient", " - Scanning for Bivalue Universal Grave", 95},
+    {28, nullptr, {.length = 10}, 6, {HintKind::NiceLoop},
+     "Scanning for Nice Loops - Please be patient", " - Scanning for Nice Loop", 100},
+    {29, nullptr, {.length = 10}, 6, {HintKind::AlternatingChain},
+     "Scanning for Alternating Inference Chains - Please be patient", " - Scanning for Alternating Inference Chains", 100},
+    {30, nullptr, {}, 7, {HintKind::XYChain},
+     "Scanning for XY-Chain - Please be patient", " - Scanning for XY-Chain", 105},
+    {31, nullptr, {}, 7, {HintKind::TripleExclusion},
+     "Scanning for Aligned Triple Exclusion - Please be patient", " - Scanning for Aligned Triple Exclusion", 105},
+    {32, nullptr, {.length = 20}, 7, {HintKind::NiceLoop},
+     "Scanning for Nice Loops - Please be patient", " - Scanning for Nice Loop", 110},
+    {33, nullptr, {.length = 20}, 7, {HintKind::AlternatingChain},
+     "Scanning for Alternating Inference Chains - Please be patient", " - Scanning for Alternating Inference Chains", 110},
+    {34, nullptr, {}, 7, {HintKind::BivalueAlsXz, HintKind::AlsXz},
+     "Scanning for ALS-xz - Please be patient", " - Scanning for ALS-xz", 110},
+    {35, nullptr, {}, 7, {HintKind::MultiFish},
+     "Scanning for MultiFish - Please be patient", " - Scanning for MultiFish", 115},
+    {36, nullptr, {}, 7, {HintKind::ForcingFromCell, HintKind::ForcingFromUnit},
+     "Scanning for Forcing Chain - Please be patient", " - Scanning for Forcing Chain", 115},
+    {37, nullptr, {}, 8, {HintKind::TripleExclusion},
+     "Scanning for Extended Aligned Triple Exclusion - Please be patient", " - Scanning for Extended Aligned Triple Exclusion", 120},
+    {38, nullptr, {.length = 30}, 8, {HintKind::AlternatingChain},
+     "Scanning for Alternating Inference Chains - Please be patient", " - Scanning for Alternating Inference Chains", 120},
+    {39, nullptr, {}, 8, {HintKind::Bifurcation},
+     "Scanning for Bifurcation - Please be patient", " - Scanning for Bifurcation", 120},
+};
+
+constexpr Step kRowsOutsideTheLadder[] = {
+    {kNoSlot, nullptr, {}, 6, {HintKind::WXYZWing}, "", "", 0},
+};
+// clang-format on
+
+template <std::size_t kCount>
+using Titles = std::array<std::string_view, kCount>;
+
+constexpr Titles<1> kNakedSingleTitles = {"Naked single"};
+constexpr Titles<1> kHiddenSingleTitles = {"Hidden single"};
+constexpr Titles<1> kPointingPairTitles = {"Pointing Pair"};
+constexpr Titles<1> kBoxLineTitles = {"Box Line Reduction"};
+constexpr Titles<6> kSubsetTitles = {"Naked Pair",  "Naked Triple", "Naked Quad",
+                                     "Naked Quint", "Hidden Pair",  "Hidden Triple"};
+constexpr Titles<1> kXWingTitles = {"X-Wing"};
+constexpr Titles<1> kSwordfishTitles = {"Swordfish"};
+constexpr Titles<1> kMultiXWingTitles = {"Multi-value X-Wing"};
+constexpr Titles<1> kEmptyRectangleTitles = {"Empty Rectangle"};
+constexpr Titles<1> kXYWingTitles = {"XY-Wing"};
+constexpr Titles<1> kXYZWingTitles = {"XYZ-Wing"};
+constexpr Titles<1> kColorTrapTitles = {"Simple Colors (Color Trap)"};
+constexpr Titles<1> kJellyfishTitles = {"Jellyfish"};
+constexpr Titles<1> kWXYZWingTitles = {"WXYZ-Wing"};
+constexpr Titles<1> kFinnedXWingTitles = {"Finned X-Wing"};
+constexpr Titles<1> kPairExclusionTitles = {"Aligned Pair Exclusion"};
+constexpr Titles<1> kTripleExclusionTitles = {"Aligned Triple Exclusion"};
+constexpr Titles<1> kXYChainTitles = {"XY-Chain"};
+constexpr Titles<1> kDoubleImplicationTitles = {"Double Implication Chain"};
+constexpr Titles<1> kBifurcationTitles = {"Bifurcation"};
+constexpr Titles<1> kColorWrapTitles = {"Simple Colors (Color Wrap)"};
+constexpr Titles<1> kMultiColor1Titles = {"Multi Coloring Type 1"};
+constexpr Titles<1> kMultiColor2Titles = {"Multi Coloring Type 2"};
+constexpr Titles<1> kBivalueGraveTitles = {"Bivalue Universal Grave"};
+constexpr Titles<1> kTwoStringKiteTitles = {"Two-String Kite"};
+constexpr Titles<1> kSkyscraperTitles = {"Skyscraper"};
+constexpr Titles<1> kSueDeCoqTitles = {"Sue-De-Coq"};
+constexpr Titles<3> kNiceLoopTitles = {"Nice Loop - Strong Discontinuity",
+                                       "Nice Loop - Weak Discontinuity",
+                                       "Nice Loop - Alternating X-Cycle"};
+constexpr Titles<5> kUniqueRectangleTitles = {"Unique Rectangle Type 1", "Unique Rectangle Type 2",
+                                              "Unique Rectangle Type 3", "Unique Rectangle Type 4",
+                                              "Hidden Unique Rectangle"};
+constexpr Titles<1> kAvoidableRectangleTitles = {"Avoidable Rectangle"};
+constexpr Titles<3> kAlternatingChainTitles = {
+    "AIC - Strong Discontinuity", "AIC - Weak Discontinuity", "AIC - Alternating Cycle"};
+constexpr Titles<1> kBivalueAlsXzTitles = {"Bi-Value ALSxz"};
+constexpr Titles<1> kAlsXzTitles = {"ALSxz"};
+constexpr Titles<1> kMedusaTitles = {"3D Medusa"};
+constexpr Titles<1> kForcingFromCellTitles = {"Forcing Chain from Cell"};
+constexpr Titles<1> kForcingFromUnitTitles = {"Forcing Chain from Unit"};
+constexpr Titles<1> kMultiFishTitles = {"MultiFish"};
+
+struct KindRow {
+    HintKind kind;
+    HintKindRow row;
+};
+
+// By number, from 1 on. No search makes kind 19: its title is reserved.
+constexpr KindRow kKindRows[] = {
+    {HintKind::NakedSingle, {kNakedSingleTitles, NakedSingleLog, NakedSingleHint}},
+    {HintKind::HiddenSingle, {kHiddenSingleTitles, HiddenSingleLog, HiddenSingleHint}},
+    {HintKind::PointingPair, {kPointingPairTitles, PointingPairLog, PointingPairHint}},
+    {HintKind::BoxLine, {kBoxLineTitles, BoxLineLog, BoxLineHint}},
+    {HintKind::Subset, {kSubsetTitles, SubsetLog, SubsetHint}},
+    {HintKind::XWing, {kXWingTitles, nullptr, nullptr}},
+    {HintKind::Swordfish, {kSwordfishTitles, nullptr, nullptr}},
+    {HintKind::MultiXWing, {kMultiXWingTitles, nullptr, nullptr}},
+    {HintKind::EmptyRectangle, {kEmptyRectangleTitles, nullptr, nullptr}},
+    {HintKind::XYWing, {kXYWingTitles, nullptr, nullptr}},
+    {HintKind::XYZWing, {kXYZWingTitles, nullptr, nullptr}},
+    {HintKind::ColorTrap, {kColorTrapTitles, nullptr, nullptr}},
+    {HintKind::Jellyfish, {kJellyfishTitles, nullptr, nullptr}},
+    {HintKind::WXYZWing, {kWXYZWingTitles, nullptr, nullptr}},
+    {HintKind::FinnedXWing, {kFinnedXWingTitles, nullptr, nullptr}},
+    {HintKind::PairExclusion, {kPairExclusionTitles, nullptr, nullptr}},
+    {HintKind::TripleExclusion, {kTripleExclusionTitles, nullptr, nullptr}},
+    {HintKind::XYChain, {kXYChainTitles, nullptr, nullptr}},
+    {HintKind::DoubleImplication, {kDoubleImplicationTitles, nullptr, nullptr}},
+    {HintKind::Bifurcation, {kBifurcationTitles, nullptr, nullptr}},
+    {HintKind::ColorWrap, {kColorWrapTitles, nullptr, nullptr}},
+    {HintKind::MultiColor1, {kMultiColor1Titles, nullptr, nullptr}},
+    {HintKind::MultiColor2, {kMultiColor2Titles, nullptr, nullptr}},
+    {HintKind::BivalueGrave, {kBivalueGraveTitles, nullptr, nullptr}},
+    {HintKind::TwoStringKite, {kTwoStringKiteTitles, nullptr, nullptr}},
+    {HintKind::Skyscraper, {kSkyscraperTitles, nullptr, nullptr}},
+    {HintKind::SueDeCoq, {kSueDeCoqTitles, nullptr, nullptr}},
+    {HintKind::NiceLoop, {kNiceLoopTitles, nullptr, nullptr}},
+    {HintKind::UniqueRectangle, {kUniqueRectangleTitles, nullptr, nullptr}},
+    {HintKind::AvoidableRectangle, {kAvoidableRectangleTitles, nullptr, nullptr}},
+    {HintKind::AlternatingChain, {kAlternatingChainTitles, nullptr, nullptr}},
+    {HintKind::BivalueAlsXz, {kBivalueAlsXzTitles, nullptr, nullptr}},
+    {HintKind::AlsXz, {kAlsXzTitles, nullptr, nullptr}},
+    {HintKind::Medusa, {kMedusaTitles, nullptr, nullptr}},
+    {HintKind::ForcingFromCell, {kForcingFromCellTitles, nullptr, nullptr}},
+    {HintKind::ForcingFromUnit, {kForcingFromUnitTitles, nullptr, nullptr}},
+    {HintKind::MultiFish, {kMultiFishTitles, nullptr, nullptr}},
+};
+
+constexpr bool KindsAreInOrder() {
+    int number = 0;
+    for (const KindRow& row : kKindRows) {
+        if (static_cast<int>(row.kind) != ++number) {
+            return false;
+        }
+    }
+    return number == static_cast<int>(HintKind::MultiFish);
+}
+static_assert(KindsAreInOrder(), "a kind's row is found by its number");
+
+}  // namespace
+
+std::span<const Slot, kSlots> Slots() {
+    return kSlotRows;
+}
+
+std::span<const Step> Steps() {
+    return kStepRows;
+}
+
+std::span<const Step> StepsOutsideTheLadder() {
+    return kRowsOutsideTheLadder;
+}
+
+const HintKindRow& RowOf(HintKind kind) {
+    assert(kind != HintKind::None && "a find has a kind");
+    return kKindRows[static_cast<std::size_t>(kind) - 1].row;
+}
+
+std::span<const std::string_view> HintTitles(HintKind kind) {
+    return RowOf(kind).titles;
+}
+
+std::string_view HintTitle(const Find& find) {
+    const std::span<const std::string_view> titles = HintTitles(find.kind);
+    const std::size_t variant = static_cast<std::size_t>(find.variant);
+    const bool isListed = variant >= 1 && variant <= titles.size();
+    return titles[isListed ? variant - 1 : titles.size() - 1];
+}
+
+std::string LogLine(const Find& find) {
+    return RowOf(find.kind).log(find);
+}
+
+std::string HintText(const Find& find) {
+    return RowOf(find.kind).hint(find);
+}
+
+std::string BatchStatusText(int reachedLevel, PuzzleOrigin origin) {
+    const int level = reachedLevel == 0 ? 1 : reachedLevel;
+    return std::string(origin == PuzzleOrigin::Imported ? "Solving Imported Sudoku : Rated "
+                                                        : "Solving Sudoku : Rated ") +
+           std::string(LevelName(level)) + " or higher";
+}
+
+std::string RatedText(int level) {
+    return "Sudoku solved and rated as " + std::string(LevelName(level));
+}
+
+}  // namespace vemo

@@ -1,0 +1,145 @@
+// What a search returns: one step, with everything that applying, logging, explaining and
+// colouring it need. A find speaks for itself: no text or colour is worked out from the grid.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "model/cellset.h"
+#include "model/grid.h"
+#include "model/sequence.h"
+#include "model/units.h"
+
+namespace vemo {
+
+// The kinds of hint; the numbers are those of the table of titles.
+enum class HintKind : std::uint8_t {
+    None = 0,
+    NakedSingle = 1,
+    HiddenSingle,
+    PointingPair,
+    BoxLine,
+    Subset,
+    XWing,
+    Swordfish,
+    MultiXWing,
+    EmptyRectangle,
+    XYWing,
+    XYZWing,
+    ColorTrap,
+    Jellyfish,
+    WXYZWing,
+    FinnedXWing,
+    PairExclusion,
+    TripleExclusion,
+    XYChain,
+    DoubleImplication,
+    Bifurcation,
+    ColorWrap,
+    MultiColor1,
+    MultiColor2,
+    BivalueGrave,
+    TwoStringKite,
+    Skyscraper,
+    SueDeCoq,
+    NiceLoop,
+    UniqueRectangle,
+    AvoidableRectangle,
+    AlternatingChain,
+    BivalueAlsXz,
+    AlsXz,
+    Medusa,
+    ForcingFromCell,
+    ForcingFromUnit,
+    MultiFish,
+};
+
+struct CellDigit {
+    std::uint8_t cell = 0;
+    std::uint8_t digit = 0;
+
+    bool operator==(const CellDigit&) const = default;
+};
+
+constexpr CellDigit At(int cell, int digit) {
+    return {static_cast<std::uint8_t>(cell), static_cast<std::uint8_t>(digit)};
+}
+
+// One link of a chain, from a set of cells to another: a node of one cell is a single candidate.
+struct ChainLink {
+    CellSet from;
+    CellSet to;
+    std::uint8_t fromDigit = 0;
+    std::uint8_t toDigit = 0;
+    bool strong = false;
+
+    bool operator==(const ChainLink&) const = default;
+};
+
+// A find holds at most this many removals: the first in order of cell, then digit. What is left
+// over is found again by the next search.
+inline constexpr std::size_t kMaxEffects = 50;
+
+struct Find {
+    HintKind kind = HintKind::None;
+    int variant = 0;  // the sub-code of kinds with several titles, 0 elsewhere
+
+    // The pattern. Which unit, cell or digit plays which part is fixed by the kind's own family.
+    Sequence<std::uint8_t, kUnitCount> units;  // indices into kUnits
+    Sequence<std::uint8_t, kCells> cells;
+    Sequence<std::uint8_t, 2 * kDigits> digits;
+    std::vector<ChainLink> links;
+
+    // The effects.
+    Sequence<CellDigit, kMaxEffects> placements;
+    Sequence<CellDigit, kMaxEffects> removals;  // by cell, then digit
+
+    void AddUnit(int unit) { units.Add(static_cast<std::uint8_t>(unit)); }
+    void AddCell(int cell) { cells.Add(static_cast<std::uint8_t>(cell)); }
+    void AddDigit(int digit) { digits.Add(static_cast<std::uint8_t>(digit)); }
+    void AddCells(CellSet set);
+    void AddDigits(Marks marks);
+    const Unit& UnitAt(std::size_t at) const { return kUnits[units[at]]; }
+
+    // Takes the candidates of `marks` that these cells hold as removals, as far as there is room.
+    // Answers whether there is any removal now. Call it once a find: the order is by cell.
+    bool Remove(const Grid& grid, CellSet from, Marks marks);
+
+    bool ChangesSomething() const { return !placements.Empty() || !removals.Empty(); }
+    bool HasSameEffects(const Find& other) const {
+        return placements == other.placements && removals == other.removals;
+    }
+};
+
+// Takes the finds of one search in scan order.
+class FindSink {
+  public:
+    virtual ~FindSink() = default;
+
+    // Answers whether the search shall go on.
+    virtual bool Offer(const Find& find) = 0;
+};
+
+// Keeps the first find and ends the search.
+class FirstFind final : public FindSink {
+  public:
+    bool Offer(const Find& find) override {
+        found = find;
+        any = true;
+        return false;
+    }
+
+    Find found;
+    bool any = false;
+};
+
+// Keeps every find; two with the same effects are one.
+class AllFinds final : public FindSink {
+  public:
+    bool Offer(const Find& find) override;
+
+    std::vector<Find> finds;
+};
+
+}  // namespace vemo

@@ -1,0 +1,84 @@
+// The player's technique settings.
+#include "solver/settings.h"
+
+#include <algorithm>
+#include <charconv>
+#include <string>
+
+namespace vemo {
+namespace {
+
+constexpr std::string_view kSection = "Technique";
+constexpr int kLastCheckSlot = 2;
+
+std::string KeyOf(std::string_view name, int slot) {
+    return std::string(name) + std::to_string(slot);
+}
+
+bool IsFixed(int slot) {
+    return slot < kFirstMovableSlot || slot > kLastMovableSlot;
+}
+
+bool IsValidOrder(const std::array<int, kSlots>& order) {
+    std::array<bool, kSlots> taken{};
+    for (int slot = 0; slot < kSlots; ++slot) {
+        const int position = order[static_cast<std::size_t>(slot)];
+        if (position < 0 || position >= kSlots || taken[static_cast<std::size_t>(position)] ||
+            (IsFixed(slot) && position != slot)) {
+            return false;
+        }
+        taken[static_cast<std::size_t>(position)] = true;
+    }
+    return true;
+}
+
+}  // namespace
+
+TechniqueSettings::TechniqueSettings() {
+    for (int slot = 0; slot < kSlots; ++slot) {
+        const std::size_t at = static_cast<std::size_t>(slot);
+        onOff[at] = true;
+        halt[at] = slot <= kLastCheckSlot;
+        order[at] = slot;
+    }
+}
+
+int TechniqueSettings::SlotAt(int position) const {
+    return static_cast<int>(std::ranges::find(order, position) - order.begin());
+}
+
+long ReadNumber(SettingsStore& store, std::string_view section, std::string_view key,
+                long fallback) {
+    const std::string text = store.Get(section, key, std::to_string(fallback));
+    long number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size() ? number : fallback;
+}
+
+TechniqueSettings ReadTechniqueSettings(SettingsStore& store) {
+    TechniqueSettings settings;
+    for (int slot = 0; slot < kSlots; ++slot) {
+        const std::size_t at = static_cast<std::size_t>(slot);
+        settings.onOff[at] =
+            slot < kFirstMovableSlot || ReadNumber(store, kSection, KeyOf("OnOff", slot), 1) != 0;
+        settings.halt[at] =
+            slot <= kLastCheckSlot || ReadNumber(store, kSection, KeyOf("Halt", slot), 0) != 0;
+        settings.order[at] =
+            static_cast<int>(ReadNumber(store, kSection, KeyOf("Order", slot), slot));
+    }
+    if (!IsValidOrder(settings.order)) {
+        settings.order = TechniqueSettings().order;
+    }
+    return settings;
+}
+
+void WriteTechniqueSettings(SettingsStore& store, const TechniqueSettings& settings) {
+    for (int slot = 0; slot < kSlots; ++slot) {
+        const std::size_t at = static_cast<std::size_t>(slot);
+        store.Save(kSection, KeyOf("OnOff", slot), settings.onOff[at] ? "1" : "0");
+        store.Save(kSection, KeyOf("Halt", slot), settings.halt[at] ? "1" : "0");
+        store.Save(kSection, KeyOf("Order", slot), std::to_string(settings.order[at]));
+    }
+}
+
+}  // namespace vemo

@@ -1,0 +1,35 @@
+// The player's technique settings: which take part, which halt autosolve, in which order.
+#pragma once
+
+#include <array>
+
+#include "platform/settings_store.h"
+#include "solver/catalogue.h"
+
+namespace vemo {
+
+struct TechniqueSettings {
+    // By slot. The defaults: all on, only the three checks halt, the order of the catalogue.
+    std::array<bool, kSlots> onOff;
+    std::array<bool, kSlots> halt;
+    std::array<int, kSlots> order;  // the position, 0..39, of each slot
+
+    TechniqueSettings();
+
+    // The slot at a position of the solving order.
+    int SlotAt(int position) const;
+
+    bool operator==(const TechniqueSettings&) const = default;
+};
+
+// Slots 0..7 are always on and slots 0..2 always halt, whatever is stored. Where any stored
+// position is outside 0..39, or the forty are no permutation that leaves the fixed slots in their
+// places, the whole order is the default one.
+TechniqueSettings ReadTechniqueSettings(SettingsStore& store);
+void WriteTechniqueSettings(SettingsStore& store, const TechniqueSettings& settings);
+
+// The number that a stored text stands for; `fallback` where it is no whole decimal number.
+long ReadNumber(SettingsStore& store, std::string_view section, std::string_view key,
+                long fallback);
+
+}  // namespace vemo

@@ -1,0 +1,104 @@
+// The one walk down the ladder and the one change of the grid under it. Rating, hint, autosolve
+// and batch check differ only in the ladder that they pass and in what they do between two passes.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "solver/catalogue.h"
+#include "solver/position.h"
+#include "solver/settings.h"
+
+namespace vemo {
+
+// Apply changes the grid; Hint keeps the find and leaves the grid as it is.
+enum class Mode : std::uint8_t { Apply, Hint };
+
+struct LadderStep {
+    const Step* step;
+    Mode mode;
+};
+using Ladder = std::vector<LadderStep>;
+
+// Every step in the order of the catalogue: the ladder of the rating.
+Ladder FixedLadder();
+
+// Slots 3..7, then positions 8..39 in the player's order, switched-off slots left out.
+Ladder HintLadder(const TechniqueSettings& settings);       // every step in hint mode
+Ladder AutosolveLadder(const TechniqueSettings& settings);  // slots that halt in hint mode
+Ladder BatchLadder(const TechniqueSettings& settings);      // every step in apply mode
+
+enum class PassResult : std::uint8_t {
+    DeadEnd,  // an empty cell has no candidate left; no step was tried
+    Nothing,  // no step found anything
+    Hint,     // a step in hint mode found something; see Solver::LastFind
+    Changed,  // a step was applied
+    Solved,   // a single was applied and filled the grid
+};
+
+// State of one run, on a copy of the puzzle.
+class Solver {
+  public:
+    // Called with each log line, without its line end.
+    using LogSink = std::function<void(std::string_view)>;
+    // Called before each step's search.
+    using StepWatcher = std::function<void(const Step&)>;
+
+    explicit Solver(const Grid& grid);
+
+    void SetLog(LogSink log) { log_ = std::move(log); }
+    void SetStepWatcher(StepWatcher watcher) { watcher_ = std::move(watcher); }
+    // The puzzle's one solution, where it is known: finds that contradict it are counted, and a
+    // debug build asserts that there are none.
+    void SetSolution(const Digits& solution) { solution_ = solution; }
+
+    const Position& State() const { return position_; }
+    int EmptyCount() const { return emptyCount_; }
+    int ReachedLevel() const { return reachedLevel_; }
+    // The highest slot that found something, kNoSlot where none did.
+    int HardestSlot() const { return hardestSlot_; }
+    // Finds that changed the grid.
+    int StepCount() const { return stepCount_; }
+    int UnsoundFinds() const { return unsoundFinds_; }
+
+    // The step and the find that ended the last pass.
+    const Step* LastStep() const { return lastStep_; }
+    const Find& LastFind() const { return lastFind_; }
+
+    // Tests for a dead end, then tries each step in turn; the first find that changes something,
+    // or that is kept as a hint, ends the pass. A find that changes nothing is logged and passed
+    // over.
+    PassResult Pass(const Ladder& ladder);
+
+    // The only change: log line, placements, removals, empty count, reached level. Effects that
+    // the grid does not allow are left out. Answers whether anything changed.
+    bool Apply(const Step& step, const Find& find);
+
+  private:
+    void CheckAgainstSolution(const Step& step, const Find& find);
+    bool ApplyEffects(const Find& find);
+    void Record(const Find& find);
+
+    Position position_;
+    int emptyCount_;
+    int reachedLevel_ = 0;
+    int hardestSlot_ = kNoSlot;
+    int stepCount_ = 0;
+    int unsoundFinds_ = 0;
+    const Step* lastStep_ = nullptr;
+    Find lastFind_;
+    std::optional<Digits> solution_;
+    LogSink log_;
+    StepWatcher watcher_;
+};
+
+// Passes until nothing is found any more. Answers whether the grid is full. `yield` is called
+// before each pass and answers whether to go on.
+bool RunToTheEnd(Solver& solver, const Ladder& ladder, const std::function<bool()>& yield = {});
+
+// The rating of a run that ended: the reached level, or Outlaw where the logic could not finish.
+int RatingOf(const Solver& solver, bool solved);
+
+}  // namespace vemo

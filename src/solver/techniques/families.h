@@ -1,0 +1,45 @@
+// The searches of the ladder, family by family, and the texts that belong to them.
+//
+// A search offers its finds in its scan order and stops when the sink has enough. A find always
+// changes something; its texts are written from the find alone.
+#pragma once
+
+#include <string>
+
+#include "solver/find.h"
+#include "solver/position.h"
+
+namespace vemo {
+
+// What a row of the ladder passes to its search; a search reads the fields that it knows.
+struct Args {
+    bool naked = false;  // naked or hidden subset
+    int size = 0;        // digits of a subset, lines of a fish, cells of a wing
+    int length = 0;      // the longest chain allowed, in links
+};
+
+using Search = void (*)(const Position& position, const Args& args, FindSink& sink);
+using TextWriter = std::string (*)(const Find& find);
+
+// singles
+void HiddenSingle(const Position& position, const Args& args, FindSink& sink);
+void NakedSingle(const Position& position, const Args& args, FindSink& sink);
+std::string HiddenSingleLog(const Find& find);
+std::string HiddenSingleHint(const Find& find);
+std::string NakedSingleLog(const Find& find);
+std::string NakedSingleHint(const Find& find);
+
+// intersections
+void PointingPair(const Position& position, const Args& args, FindSink& sink);
+void BoxLine(const Position& position, const Args& args, FindSink& sink);
+std::string PointingPairLog(const Find& find);
+std::string PointingPairHint(const Find& find);
+std::string BoxLineLog(const Find& find);
+std::string BoxLineHint(const Find& find);
+
+// subsets
+void NakedHidden(const Position& position, const Args& args, FindSink& sink);
+std::string SubsetLog(const Find& find);
+std::string SubsetHint(const Find& find);
+
+}  // namespace vemo

@@ -1,0 +1,167 @@
+// Naked and hidden pairs to quints.
+#include <array>
+#include <span>
+
+#include "solver/techniques/families.h"
+#include "solver/text.h"
+
+namespace vemo {
+namespace {
+
+// A unit seen from either side: for a naked subset nine cells with their digits (bit d), for a
+// hidden one nine digits with their cells (bit k for the k-th cell).
+using Members = std::array<unsigned, 9>;
+
+// Offers every choice of `size` members, each with at least one bit, that have exactly `size` bits
+// between them; in lexicographic order. `visit(chosen, bits)` answers whether to go on, with bit m
+// of `chosen` for member m.
+template <typename Visit>
+bool ForEachSubset(const Members& members, int size, Visit visit, int first = 0,
+                   unsigned chosen = 0, unsigned bits = 0, int count = 0) {
+    if (count == size) {
+        return BitCount(bits) != size || visit(chosen, bits);
+    }
+    for (int m = first; m <= 9 - (size - count); ++m) {
+        const unsigned own = members[static_cast<std::size_t>(m)];
+        if (own == 0 || BitCount(bits | own) > size) {
+            continue;
+        }
+        if (!ForEachSubset(members, size, visit, m + 1, chosen | 1u << m, bits | own, count + 1)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// 1..4 naked pair to quint, 5 and 6 hidden pair and triple: the order of the titles.
+int VariantOf(const Args& args) {
+    return args.naked ? args.size - 1 : args.size + 3;
+}
+bool IsNaked(const Find& find) {
+    return find.variant <= 4;
+}
+
+Find SubsetFind(const Args& args, int unitNumber, CellSet cells, Marks digits) {
+    Find find;
+    find.kind = HintKind::Subset;
+    find.variant = VariantOf(args);
+    find.AddUnit(unitNumber);
+    find.AddCells(cells);
+    find.AddDigits(digits);
+    return find;
+}
+
+// The subset's digits go from the other cells of the unit. Answers whether any goes.
+bool VerwijderNS(const Grid& grid, const Unit& unit, CellSet subset, Marks digits, Find& find) {
+    return find.Remove(grid, unit.set - subset, digits);
+}
+
+CellSet CellsAt(const Unit& unit, unsigned positions) {
+    CellSet cells;
+    for (int k = 0; k < 9; ++k) {
+        if ((positions >> k & 1) != 0) {
+            cells.Add(unit.cells[static_cast<std::size_t>(k)]);
+        }
+    }
+    return cells;
+}
+
+Members DigitsOfCells(const Grid& grid, const Unit& unit) {
+    Members members{};
+    for (std::size_t k = 0; k < 9; ++k) {
+        members[k] = grid.MarksAt(unit.cells[k]);
+    }
+    return members;
+}
+
+Members CellsOfDigits(const Members& digitsOfCells) {
+    Members members{};
+    for (unsigned k = 0; k < 9; ++k) {
+        for (Marks marks = static_cast<Marks>(digitsOfCells[k]); marks != 0;
+             marks &= static_cast<Marks>(marks - 1)) {
+            members[static_cast<std::size_t>(FirstDigit(marks) - 1)] |= 1u << k;
+        }
+    }
+    return members;
+}
+
+bool OfferNaked(const Grid& grid, int unitNumber, const Args& args, FindSink& sink) {
+    const Unit& unit = kUnits[static_cast<std::size_t>(unitNumber)];
+    const Members cells = DigitsOfCells(grid, unit);
+    return ForEachSubset(cells, args.size, [&](unsigned chosen, unsigned bits) {
+        const Marks digits = static_cast<Marks>(bits);
+        const CellSet subset = CellsAt(unit, chosen);
+        // More cells than digits would be a contradiction, and no subset.
+        for (std::size_t k = 0; k < 9; ++k) {
+            if (cells[k] != 0 && (cells[k] & ~bits) == 0 && !subset.Has(unit.cells[k])) {
+                return true;
+            }
+        }
+        Find find = SubsetFind(args, unitNumber, subset, digits);
+        return !VerwijderNS(grid, unit, subset, digits, find) || sink.Offer(find);
+    });
+}
+
+bool OfferHidden(const Grid& grid, int unitNumber, const Args& args, FindSink& sink) {
+    const Unit& unit = kUnits[static_cast<std::size_t>(unitNumber)];
+    const Members digits = CellsOfDigits(DigitsOfCells(grid, unit));
+    return ForEachSubset(digits, args.size, [&](unsigned chosen, unsigned positions) {
+        const Marks kept = static_cast<Marks>(chosen << 1);
+        const CellSet subset = CellsAt(unit, positions);
+        Find find = SubsetFind(args, unitNumber, subset, kept);
+        const Marks others = static_cast<Marks>(kAllMarks & ~kept);
+        return !find.Remove(grid, subset, others) || sink.Offer(find);
+    });
+}
+
+constexpr std::array<const char*, 6> kLogNames = {"Naked Pair",  "Naked Triple", "Naked Quad",
+                                                  "Naked Quint", "Hidden Pair",  "Hidden Triple"};
+constexpr std::array<const char*, 6> kHintNames = {"NAKED PAIR",  "NAKED TRIPLE", "NAKED QUAD",
+                                                   "NAKED QUINT", "HIDDEN PAIR",  "HIDDEN TRIPLE"};
+
+std::string NameOf(const std::array<const char*, 6>& names, const Find& find) {
+    return names[static_cast<std::size_t>(find.variant - 1)];
+}
+
+}  // namespace
+
+// Naked: n cells of a unit that hold only n digits between them use these digits up, so that they
+// go from the unit's other cells. Hidden: n digits that have only n cells between them fill these,
+// so that every other candidate goes from them. Rows, then columns, then boxes; within a unit by
+// cells (naked) or digits (hidden).
+void NakedHidden(const Position& position, const Args& args, FindSink& sink) {
+    for (int unitNumber = 0; unitNumber < kUnitCount; ++unitNumber) {
+        const bool goOn = args.naked ? OfferNaked(position.Cells(), unitNumber, args, sink)
+                                     : OfferHidden(position.Cells(), unitNumber, args, sink);
+        if (!goOn) {
+            return;
+        }
+    }
+}
+
+std::string SubsetLog(const Find& find) {
+    const std::string head = NameOf(kLogNames, find) + ": " + UnitInLog(find.UnitAt(0));
+    const std::string digits = JoinDigits(Items(find.digits));
+    if (IsNaked(find)) {
+        return head + " => Removed candidates " + digits + " from cells" +
+               SpacedCells(Items(find.removals));
+    }
+    return head + " => Kept candidates " + digits + " in cells" + SpacedCells(Items(find.cells));
+}
+
+std::string SubsetHint(const Find& find) {
+    const std::string name = NameOf(kHintNames, find);
+    const std::string digits = JoinDigits(Items(find.digits));
+    const std::string cells = JoinCells(Items(find.cells));
+    const Unit& unit = find.UnitAt(0);
+    if (IsNaked(find)) {
+        return name + ": Since cells " + cells + UnitInHint(unit) +
+               " contains only the candidates " + digits +
+               ", those candidates can't appear anywhere else in that " +
+               std::string(UnitWord(unit));
+    }
+    return name + ": Since candidates " + digits + UnitInHint(unit) + " only occurs in cells " +
+           cells + ", all other candidates can be discarded from those cells.";
+}
+
+}  // namespace vemo
