@@ -73,7 +73,7 @@ Apt() {
     until "${asRoot[@]}" env LC_ALL=C DEBIAN_FRONTEND=noninteractive \
         apt-get -y -q -o Acquire::Retries=3 "$@" </dev/null >"$log" 2>&1; do
         if ! grep -qE 'Could not get lock|locked by another' "$log"; then
-            tail -n 25 "$log" >&2
+            tail -n 10 "$log" >&2
             echo "setup: apt-get $1 failed" >&2
             return 1
         fi

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "model/levels.h"
 
 namespace vemo {
 namespace {
@@ -133,6 +132,16 @@ LevelStatistics RecordFiles::ReadStatistics(int level) {
 std::optional<FileError> RecordFiles::WriteStatistics(int level,
                                                       const LevelStatistics& statistics) {
     return WriteRecord(files_, StatisticsPath(), level, Pack(statistics));
+}
+
+std::optional<FileError> RecordFiles::WriteAllStatistics(
+    const std::array<LevelStatistics, kLevels>& statistics) {
+    Bytes content;
+    for (const LevelStatistics& level : statistics) {
+        const StatisticsBytes record = Pack(level);
+        content.insert(content.end(), record.begin(), record.end());
+    }
+    return files_.Replace(StatisticsPath(), content);
 }
 
 }  // namespace vemo

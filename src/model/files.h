@@ -3,10 +3,12 @@
 // Records are numbered from 1. Every call opens a file, reads or writes once, and closes it.
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <optional>
 #include <string>
 
+#include "model/levels.h"
 #include "model/records.h"
 #include "platform/files.h"
 
@@ -56,6 +58,9 @@ class RecordFiles {
     // A record past the end, or in a missing file, is all zero.
     LevelStatistics ReadStatistics(int level);
     std::optional<FileError> WriteStatistics(int level, const LevelStatistics& statistics);
+    // All nine levels, in one replacement of the file.
+    std::optional<FileError> WriteAllStatistics(
+        const std::array<LevelStatistics, kLevels>& statistics);
 
   private:
     Files& files_;

@@ -186,7 +186,8 @@ bool IsWhole(const PuzzleRecord& record) {
 }
 
 bool BelongsTo(const PlayState& state, const PuzzleRecord& puzzle) {
-    return std::ranges::equal(puzzle.clues, state.digits,
+    return state.digits != Digits{} &&
+           std::ranges::equal(puzzle.clues, state.digits,
                               [](int clue, int digit) { return clue == 0 || clue == digit; });
 }
 

@@ -33,9 +33,9 @@ class Files {
     virtual std::optional<Bytes> ReadAt(const std::filesystem::path& path, std::uint64_t offset,
                                         std::size_t length) = 0;
 
-    // Writes at `offset` by one call of the system, so that a program killed at any moment leaves
-    // the old bytes or the new ones. Makes the file where it is missing; a gap before `offset` is
-    // filled with zeros.
+    // Writes at `offset`. A program killed at any moment leaves the old bytes or the new ones;
+    // where they begin at or past the end, the file may end within them. Makes the file where it is
+    // missing; a gap before `offset` is filled with zeros.
     virtual std::optional<FileError> WriteAt(const std::filesystem::path& path,
                                              std::uint64_t offset,
                                              std::span<const std::uint8_t> bytes) = 0;

@@ -13,6 +13,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// A system takes a write page by page, and a program killed meanwhile has written the first pages
+// only. No system has smaller pages than these.
+constexpr std::uint64_t kPageSize = 4096;
+
+bool LiesInOnePage(std::uint64_t offset, std::size_t length) {
+    return length == 0 || offset / kPageSize == (offset + length - 1) / kPageSize;
+}
+
 FileError ErrorOf(const fs::path& path, const char* deed) {
     const int code = errno;
     return {path, std::string(deed) + (code != 0 ? std::string(": ") + std::strerror(code) : "")};
@@ -81,6 +89,9 @@ std::optional<Bytes> PlainFiles::ReadAt(const fs::path& path, std::uint64_t offs
 
 std::optional<FileError> PlainFiles::WriteAt(const fs::path& path, std::uint64_t offset,
                                              std::span<const std::uint8_t> bytes) {
+    if (offset < Size(path).value_or(0) && !LiesInOnePage(offset, bytes.size())) {
+        return ReplacePart(path, offset, bytes);
+    }
     std::fstream file;
     if (!OpenUnbuffered(file, path, std::ios::in | std::ios::out)) {
         // Opening for reading and writing makes no file; appending makes one and cuts none.
@@ -98,6 +109,19 @@ std::optional<FileError> PlainFiles::WriteAt(const fs::path& path, std::uint64_t
         return ErrorOf(path, "cannot be written");
     }
     return WriteAll(file, path, bytes);
+}
+
+std::optional<FileError> PlainFiles::ReplacePart(const fs::path& path, std::uint64_t offset,
+                                                 std::span<const std::uint8_t> bytes) {
+    const std::uint64_t size = Size(path).value_or(0);
+    std::optional<Bytes> content = ReadAt(path, 0, static_cast<std::size_t>(size));
+    if (!content || content->size() != size) {
+        return FileError{path, "cannot be read"};
+    }
+    const std::size_t start = static_cast<std::size_t>(offset);
+    content->resize(std::max(content->size(), start + bytes.size()));
+    std::ranges::copy(bytes, content->begin() + static_cast<std::ptrdiff_t>(start));
+    return Replace(path, *content);
 }
 
 std::optional<FileError> PlainFiles::Replace(const fs::path& path,

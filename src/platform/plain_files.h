@@ -17,6 +17,11 @@ class PlainFiles final : public Files {
     std::optional<FileError> CopyIfMissing(const std::filesystem::path& from,
                                            const std::filesystem::path& to) override;
     std::optional<FileError> MakeFolder(const std::filesystem::path& path) override;
+
+  private:
+    // The content with these bytes at `offset`, in place of the file's.
+    std::optional<FileError> ReplacePart(const std::filesystem::path& path, std::uint64_t offset,
+                                         std::span<const std::uint8_t> bytes);
 };
 
 }  // namespace vemo

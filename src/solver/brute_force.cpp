@@ -174,13 +174,6 @@ BruteForceResult SearchFrom(const Grid& grid, const SearchYield& yield) {
     return grid.EmptyCell() ? NoSolution() : Search(grid, yield).Run();
 }
 
-// The steps that a quick pass walks: slots 3..7.
-Ladder QuickLadder() {
-    Ladder ladder = FixedLadder();
-    std::erase_if(ladder, [](const LadderStep& at) { return at.step->slot >= kFirstMovableSlot; });
-    return ladder;
-}
-
 }  // namespace
 
 PreSolveResult PreSolve(const Grid& grid) {

@@ -63,8 +63,8 @@ TechniqueSettings ReadTechniqueSettings(SettingsStore& store) {
             slot < kFirstMovableSlot || ReadNumber(store, kSection, KeyOf("OnOff", slot), 1) != 0;
         settings.halt[at] =
             slot <= kLastCheckSlot || ReadNumber(store, kSection, KeyOf("Halt", slot), 0) != 0;
-        settings.order[at] =
-            static_cast<int>(ReadNumber(store, kSection, KeyOf("Order", slot), slot));
+        const long position = ReadNumber(store, kSection, KeyOf("Order", slot), slot);
+        settings.order[at] = static_cast<int>(std::clamp<long>(position, -1, kSlots));
     }
     if (!IsValidOrder(settings.order)) {
         settings.order = TechniqueSettings().order;

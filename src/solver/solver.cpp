@@ -52,6 +52,13 @@ Ladder FixedLadder() {
     return ladder;
 }
 
+Ladder QuickLadder() {
+    Ladder ladder = FixedLadder();
+    std::erase_if(ladder,
+                  [](const LadderStep& at) { return at.step->slot >= kFirstMovableSlot; });
+    return ladder;
+}
+
 Ladder HintLadder(const TechniqueSettings& settings) {
     return UserLadder(settings, [](int) { return Mode::Hint; });
 }
@@ -73,8 +80,8 @@ PassResult Solver::Pass(const Ladder& ladder) {
         return PassResult::DeadEnd;
     }
     for (const auto& [step, mode] : ladder) {
-        if (watcher_) {
-            watcher_(*step);
+        if (watcher_ && !watcher_(*step)) {
+            return PassResult::Stopped;
         }
         if (step->search == nullptr) {
             continue;

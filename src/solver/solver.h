@@ -25,12 +25,16 @@ using Ladder = std::vector<LadderStep>;
 // Every step in the order of the catalogue: the ladder of the rating.
 Ladder FixedLadder();
 
+// Slots 3..7 alone.
+Ladder QuickLadder();
+
 // Slots 3..7, then positions 8..39 in the player's order, switched-off slots left out.
 Ladder HintLadder(const TechniqueSettings& settings);       // every step in hint mode
 Ladder AutosolveLadder(const TechniqueSettings& settings);  // slots that halt in hint mode
 Ladder BatchLadder(const TechniqueSettings& settings);      // every step in apply mode
 
 enum class PassResult : std::uint8_t {
+    Stopped,  // by the step watcher
     DeadEnd,  // an empty cell has no candidate left; no step was tried
     Nothing,  // no step found anything
     Hint,     // a step in hint mode found something; see Solver::LastFind
@@ -43,8 +47,8 @@ class Solver {
   public:
     // Called with each log line, without its line end.
     using LogSink = std::function<void(std::string_view)>;
-    // Called before each step's search.
-    using StepWatcher = std::function<void(const Step&)>;
+    // Called before each step's search; answers whether to go on.
+    using StepWatcher = std::function<bool(const Step&)>;
 
     explicit Solver(const Grid& grid);
 

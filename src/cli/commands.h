@@ -1,0 +1,66 @@
+// What a command is. A command is added by a function that describes it, and its row in Commands.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "cli/options.h"
+#include "cli/streams.h"
+
+namespace vemo {
+
+struct CommandResult {
+    ExitCode code = ExitCode::Fine;
+    std::string usageError{};  // names the offending word; goes with ExitCode::Usage
+};
+
+enum class Operands : std::uint8_t { None, OneFile };
+
+struct Command {
+    std::string_view name;
+    Operands operands;
+    std::string_view usage;    // the options of its usage line
+    std::string_view summary;  // one line
+    std::span<const Option> options;
+    std::string (*notes)();  // further lines of its help
+    CommandResult (*run)(const Arguments& arguments, Streams& streams);
+};
+
+Command SolveCommand();
+Command RateCommand();
+Command HintCommand();
+Command FindCommand();
+Command MakeLevelsCommand();
+
+inline std::array<Command, 5> Commands() {
+    return {SolveCommand(), RateCommand(), HintCommand(), FindCommand(), MakeLevelsCommand()};
+}
+
+// The options of every command that reads a list of puzzles.
+inline constexpr Option kJsonlOption = {"--jsonl", "",
+                                        "write JSON Lines, one object a line of input"};
+inline constexpr Option kQuietOption = {"--quiet", "", "show no progress"};
+
+// How the input is described in their help.
+inline constexpr std::string_view kListNotes =
+    "FILE holds one of them a line, \"-\" is standard input. Blank lines and lines that begin "
+    "with\n"
+    "# are passed over; a line that cannot be read gets a message with its number.\n";
+inline constexpr std::string_view kPuzzleNotes =
+    "A puzzle is 81 characters row by row, a digit or one of . 0 * _ - x X for an empty cell. Of "
+    "a\n"
+    "position (see vemosud hint --help) the givens are the puzzle.\n";
+inline constexpr std::string_view kPositionNotes =
+    "A position is the grid, 81 characters row by row, a digit or one of . 0 * _ - x X for an\n"
+    "empty cell; optionally TAB and 81 comma-separated groups of the digits still possible, empty\n"
+    "for a filled cell; optionally TAB and the 81 givens. Without the groups they follow from the\n"
+    "grid; without the givens every filled cell is one.\n";
+
+inline CommandResult UsageError(std::string text) {
+    return {ExitCode::Usage, std::move(text)};
+}
+
+}  // namespace vemo

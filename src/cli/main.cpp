@@ -1,0 +1,15 @@
+// The entry of the command line program.
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/program.h"
+#include "platform/console.h"
+
+int main(int count, char** values) {
+    std::ios::sync_with_stdio(false);
+    vemo::ReportClosedPipes();
+    const std::vector<std::string> words(values + (count > 0 ? 1 : 0), values + count);
+    vemo::Streams streams{std::cin, std::cout, std::cerr, vemo::CanShowProgress()};
+    return static_cast<int>(vemo::RunProgram(words, streams));
+}

@@ -1,0 +1,56 @@
+// vemosud solve: how many solutions a puzzle has, and the one.
+#include "cli/answers.h"
+#include "cli/commands.h"
+#include "cli/json.h"
+#include "cli/line_loop.h"
+#include "solver/brute_force.h"
+#include "tools/puzzle_line.h"
+
+namespace vemo {
+namespace {
+
+constexpr Option kOptions[] = {kJsonlOption, kQuietOption};
+
+std::string Notes() {
+    return "One line a puzzle: puzzle TAB unique, none or multiple TAB solution, which is empty\n"
+           "unless there is exactly one. With --jsonl the fields \"line\", \"puzzle\", "
+           "\"result\",\n"
+           "\"solution\".\n\n" +
+           std::string(kPuzzleNotes).append(kListNotes);
+}
+
+CommandResult Solve(const Arguments& arguments, Streams& streams) {
+    const bool isJson = arguments.Has(kJsonlOption.name);
+    return {AnswerEachLine(arguments, streams, [isJson](const InputLine& line) -> Answer {
+        const PuzzleLine read = ReadPuzzleLine(line.text);
+        if (!read.IsPuzzle()) {
+            return Refusal(read.error);
+        }
+        const BruteForceResult result = BruteForceSolve(read.clues);
+        const std::string puzzle = WriteGrid81(read.clues);
+        const std::string solution = result.IsUnique() ? WriteGrid81(result.solution) : "";
+        const std::string_view word = SolutionCountWord(result);
+        const bool isFaulty = !result.IsUnique();
+        if (isJson) {
+            JsonObject object;
+            object.Add("line", line.number).Add("puzzle", puzzle);
+            object.Add("result", word).Add("solution", solution);
+            return {object.Line(), "", isFaulty};
+        }
+        return {puzzle + '\t' + std::string(word) + '\t' + solution + '\n', "", isFaulty};
+    })};
+}
+
+}  // namespace
+
+Command SolveCommand() {
+    return {"solve",
+            Operands::OneFile,
+            "[--jsonl] [--quiet]",
+            "Counts the solutions of each puzzle and writes the one",
+            kOptions,
+            Notes,
+            Solve};
+}
+
+}  // namespace vemo

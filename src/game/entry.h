@@ -1,0 +1,49 @@
+// Cell entry: what a click, a key or a command does to the digits and marks of the puzzle in play.
+#pragma once
+
+#include "game/stage.h"
+
+namespace vemo {
+
+enum class Direction : std::uint8_t { Left, Right, Up, Down };
+enum class Jump : std::uint8_t { NextCell, NextEmptyCell };
+
+// The board is on: a puzzle is being played, the clock is not stopped by the player. What acts on
+// the puzzle does nothing while it is off.
+bool IsBoardOn(const Stage& stage);
+
+// What is refused for a reason that cannot be seen leaves a short text in the hint text box; an
+// explanation on display stays above it. Clues are left alone in silence.
+
+// A click on a cell, released over it: selects the cell; then link mode begins or ends a link at
+// its mark, a brush paints it, or the mark under the pointer is assigned (left) or discarded
+// (right).
+void ClickBoard(Stage& stage, int cell, int digit, MouseButton button);
+// A row or column label: a red one loses its red with all of its side, otherwise a brush paints.
+void ClickLabel(Stage& stage, UnitKind kind, int index, MouseButton button);
+void ClickColorLabel(Stage& stage, int color, MouseButton button);
+void ToggleLinkMode(Stage& stage);
+void ToggleDigitFilter(Stage& stage, int digit);
+
+// The keyboard: the same as a left and a right click on a mark of the selected cell, refusals
+// included; with the marks' mode "Off" digits can still be assigned, and a mark that is gone is
+// given back where it is legal.
+void AssignBySelection(Stage& stage, int digit);
+void ToggleMarkBySelection(Stage& stage, int digit);
+// One cell on, around the ends of the row or column; or to the next empty cell, row after row for
+// left and right, column after column for up and down.
+void MoveSelectionBy(Stage& stage, Direction direction, Jump jump);
+
+void UndoStep(Stage& stage);
+void RedoStep(Stage& stage);
+// The selected cell: its digit off, or all its legal marks back.
+void ResetCell(Stage& stage);
+// The puzzle as it was loaded, as a new game.
+void Restart(Stage& stage);
+// Shows all digits. The puzzle counts as played by the program from here on.
+void ShowSolution(Stage& stage);
+
+// Undo, Redo and Autosolve are off while a brush is armed or link mode is on.
+bool IsBrushOrLinkMode(const Stage& stage);
+
+}  // namespace vemo

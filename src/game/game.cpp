@@ -1,0 +1,285 @@
+// The game as its window sees it.
+#include "game/game.h"
+
+#include "game/entry.h"
+#include "game/hints.h"
+#include "game/menus.h"
+#include "game/pencilmarks.h"
+#include "game/play_levels.h"
+#include "game/screen_maker.h"
+#include "game/startup.h"
+
+namespace vemo {
+namespace {
+
+constexpr const char* kWebAddress = "https://vemo.example/sudoku";
+
+// The clock runs while the timer is on, a puzzle is played, and nobody has stopped it.
+bool ShallClockRun(const Stage& stage) {
+    return stage.options.timeOn && stage.session.IsPlaying() && !stage.session.isMinimized &&
+           !stage.session.isStoppedByPlayer;
+}
+
+void UpdateClock(Stage& stage) {
+    PlayClock& clock = stage.session.clock;
+    if (!ShallClockRun(stage)) {
+        clock.Stop();
+    } else if (!clock.IsRunning()) {
+        clock.Resume(stage.clock.SecondOfDay());
+    }
+}
+
+void StopClockNow(Stage& stage) {
+    stage.session.clock.Tick(stage.clock.SecondOfDay());
+    UpdateClock(stage);
+}
+
+void FlipOption(Stage& stage, bool Options::*option) {
+    stage.options.*option = !(stage.options.*option);
+    SchrijfOpties(stage.settings, stage.options);
+}
+
+}  // namespace
+
+Game::Game(const Platform& platform, View& view) : stage_(platform, view) {
+    stage_.show = [this] { Show(); };
+    Show();
+}
+
+void Game::Show() {
+    screen_ = MakeScreen(stage_);
+    stage_.view.Refresh();
+}
+
+template <typename Event>
+void Game::Handle(Event event) {
+    if (stage_.session.IsBusy()) {
+        return;
+    }
+    event(stage_);
+    Show();
+}
+
+void Game::FormLoad() {
+    Handle([](Stage& stage) { StartUp(stage); });
+}
+
+bool Game::FormQueryUnload() {
+    const bool mayQuit = MayQuit(stage_);
+    Show();
+    return mayQuit;
+}
+
+void Game::FormResize(WindowState state) {
+    const bool isMinimized = state == WindowState::Minimized;
+    if (stage_.session.isMinimized != isMinimized) {
+        stage_.session.isMinimized = isMinimized;
+        StopClockNow(stage_);
+        Show();
+    }
+}
+
+void Game::Timer1() {
+    const int before = stage_.session.clock.Elapsed();
+    stage_.session.clock.Tick(stage_.clock.SecondOfDay());
+    if (stage_.session.clock.Elapsed() != before) {
+        Show();
+    }
+}
+
+void Game::GridMouseUp(int cell, int digit, MouseButton button, Released released) {
+    if (released == Released::Inside) {
+        Handle([&](Stage& stage) { ClickBoard(stage, cell, digit, button); });
+    }
+}
+
+void Game::GridMouseMove(int cell, int digit) {
+    const int mark = cell * kDigits + digit - 1;
+    if (stage_.session.pointedMark != mark) {
+        stage_.session.pointedMark = mark;
+        Show();
+    }
+}
+
+void Game::FormMouseMove() {
+    if (stage_.session.pointedMark != kNoMark) {
+        stage_.session.pointedMark = kNoMark;
+        Show();
+    }
+}
+
+void Game::LabelRowMouseUp(int row, MouseButton button, Released released) {
+    if (released == Released::Inside) {
+        Handle([&](Stage& stage) { ClickLabel(stage, UnitKind::Row, row, button); });
+    }
+}
+
+void Game::LabelColumnMouseUp(int column, MouseButton button, Released released) {
+    if (released == Released::Inside) {
+        Handle([&](Stage& stage) { ClickLabel(stage, UnitKind::Column, column, button); });
+    }
+}
+
+void Game::LabelColorMouseUp(int color, MouseButton button) {
+    Handle([&](Stage& stage) { ClickColorLabel(stage, color, button); });
+}
+
+void Game::CommandLinkClick() {
+    Handle([](Stage& stage) { ToggleLinkMode(stage); });
+}
+
+void Game::Command1Click(int digit) {
+    Handle([&](Stage& stage) { ToggleDigitFilter(stage, digit); });
+}
+
+void Game::CommandApplyClick() {
+    Handle([](Stage& stage) { ApplyHint(stage); });
+}
+
+void Game::CommandPauseClick() {
+    Handle([](Stage& stage) {
+        Session& session = stage.session;
+        if (session.IsPlaying() && stage.options.timeOn) {
+            session.isStoppedByPlayer = !session.isStoppedByPlayer;
+            StopClockNow(stage);
+        }
+    });
+}
+
+void Game::MoveSelection(Direction direction, Jump jump) {
+    Handle([&](Stage& stage) { MoveSelectionBy(stage, direction, jump); });
+}
+
+void Game::KeyDigit(int digit) {
+    Handle([&](Stage& stage) { AssignBySelection(stage, digit); });
+}
+
+void Game::KeyMark(int digit) {
+    Handle([&](Stage& stage) { ToggleMarkBySelection(stage, digit); });
+}
+
+void Game::KeyHint() {
+    if (stage_.session.hint) {
+        CommandApplyClick();
+    } else {
+        CommandHintClick();
+    }
+}
+
+void Game::Run(CommandId id) {
+    const MenuRow& row = RowOf(id);
+    if (row.handler != nullptr && screen_.Command(id).isEnabled) {
+        row.handler(*this);
+    }
+}
+
+void Game::CommandHintClick() {
+    Run(stage_.session.showMe ? CommandId::SolveShowMe : CommandId::SolveHint);
+}
+
+void Game::mnuSudokuNext() {
+    Handle(NextPuzzle);
+}
+
+void Game::mnuSudokuOpen() {
+    Handle(OpenByNumber);
+}
+
+void Game::mnuSudokuSave() {
+    Handle(SaveCommand);
+}
+
+void Game::mnuSudokuExit() {
+    if (FormQueryUnload()) {
+        stage_.view.Close();
+    }
+}
+
+void Game::mnuLevelNr(int level) {
+    Handle([&](Stage& stage) { ChooseLevel(stage, level); });
+}
+
+void Game::mnuSolveRestart() {
+    Handle(Restart);
+}
+
+void Game::mnuSolveUndo() {
+    Handle(UndoStep);
+}
+
+void Game::mnuSolveRedo() {
+    Handle(RedoStep);
+}
+
+void Game::mnuSolveResetCell() {
+    Handle(ResetCell);
+}
+
+void Game::mnuSolveHint() {
+    Handle(GiveHint);
+}
+
+void Game::mnuSolveShowMe() {
+    Handle(ShowMe);
+}
+
+void Game::mnuSolveSolution() {
+    Handle(ShowSolution);
+}
+
+void Game::mnuSolveStop() {
+    stage_.session.isStopRequested = true;
+}
+
+void Game::mnuPencilmarksMode() {
+    Handle(TogglePencilmarksMode);
+}
+
+void Game::mnuPencilmarksOff() {
+    Handle(TogglePencilmarksOff);
+}
+
+void Game::mnuPencilmarksDimmed() {
+    Handle(TogglePencilmarksDimmed);
+}
+
+void Game::mnuEraseSudokuTime() {
+    Handle(EraseSudokuTime);
+}
+
+void Game::mnuEraseLevelTime() {
+    Handle(EraseLevelTime);
+}
+
+void Game::mnuEraseAllTime() {
+    Handle(EraseAllTime);
+}
+
+void Game::mnuOptionsTimer() {
+    Handle([](Stage& stage) {
+        stage.session.isStoppedByPlayer = false;
+        FlipOption(stage, &Options::timeOn);
+        UpdateClock(stage);
+    });
+}
+
+void Game::mnuOptionsSounds() {
+    Handle([](Stage& stage) { FlipOption(stage, &Options::sounds); });
+}
+
+void Game::mnuOptionsWells() {
+    Handle([](Stage& stage) { FlipOption(stage, &Options::wells); });
+}
+
+void Game::mnuAppearance(Appearance appearance) {
+    Handle([&](Stage& stage) {
+        stage.options.appearance = appearance;
+        SchrijfOpties(stage.settings, stage.options);
+    });
+}
+
+void Game::mnuHelpWeb() {
+    Handle([](Stage& stage) { stage.view.OpenLink(kWebAddress); });
+}
+
+}  // namespace vemo

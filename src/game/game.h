@@ -1,0 +1,89 @@
+// The game as its window sees it: one method an event, named after its control. No rule stands
+// here; each method hands on to the part of the game that knows it and then shows the screen anew.
+#pragma once
+
+#include "game/entry.h"
+#include "game/menu_ids.h"
+#include "game/screen.h"
+#include "game/stage.h"
+
+namespace vemo {
+
+enum class Released : std::uint8_t { Inside, Outside };
+enum class WindowState : std::uint8_t { Shown, Minimized };
+
+class Game {
+  public:
+    Game(const Platform& platform, View& view);
+
+    // What the player sees now.
+    const Screen& Current() const { return screen_; }
+    const Options& CurrentOptions() const { return stage_.options; }
+    const Colors& CurrentColors() const { return stage_.colors; }
+    const Session& CurrentSession() const { return stage_.session; }
+
+    // The window.
+    void FormLoad();
+    bool FormQueryUnload();  // answers whether the window may close
+    void FormResize(WindowState state);
+    void Timer1();  // every tick of the clock, a few a second
+
+    // The board. A front end reports the cell under the pointer and the digit whose mark's place
+    // is under it; `released` tells whether the button went up over the cell that it went down on.
+    void GridMouseUp(int cell, int digit, MouseButton button, Released released);
+    void GridMouseMove(int cell, int digit);
+    void FormMouseMove();  // the pointer is over no cell
+    void LabelRowMouseUp(int row, MouseButton button, Released released);
+    void LabelColumnMouseUp(int column, MouseButton button, Released released);
+    void LabelColorMouseUp(int color, MouseButton button);
+    void CommandLinkClick();
+    void Command1Click(int digit);  // the nine digit filters
+    void CommandApplyClick();
+    void CommandPauseClick();
+
+    // The keyboard.
+    void MoveSelection(Direction direction, Jump jump);
+    void KeyDigit(int digit);  // assigns to the selected cell
+    void KeyMark(int digit);   // toggles a mark of the selected cell
+    void KeyHint();            // a hint, and again to apply it
+
+    // The menus; each button calls its menu twin (CommandHint: Hint or Show Me, by its caption).
+    void Run(CommandId id);
+    void CommandHintClick();
+
+    void mnuSudokuNext();
+    void mnuSudokuOpen();
+    void mnuSudokuSave();
+    void mnuSudokuExit();
+    void mnuLevelNr(int level);
+    void mnuSolveRestart();
+    void mnuSolveUndo();
+    void mnuSolveRedo();
+    void mnuSolveResetCell();
+    void mnuSolveHint();
+    void mnuSolveShowMe();
+    void mnuSolveSolution();
+    void mnuSolveStop();
+    void mnuPencilmarksMode();
+    void mnuPencilmarksOff();
+    void mnuPencilmarksDimmed();
+    void mnuEraseSudokuTime();
+    void mnuEraseLevelTime();
+    void mnuEraseAllTime();
+    void mnuOptionsTimer();
+    void mnuOptionsSounds();
+    void mnuOptionsWells();
+    void mnuAppearance(Appearance appearance);
+    void mnuHelpWeb();
+
+  private:
+    // Runs one event unless a long function bars it, then shows the screen anew.
+    template <typename Event>
+    void Handle(Event event);
+    void Show();
+
+    Stage stage_;
+    Screen screen_;
+};
+
+}  // namespace vemo

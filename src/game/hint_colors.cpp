@@ -1,0 +1,145 @@
+// The colours of hints and reports.
+#include "game/hint_colors.h"
+
+#include <algorithm>
+
+namespace vemo {
+namespace {
+
+// A node of several cells is drawn from the one that lies nearest to the other end.
+LinkView NearestCells(const ChainLink& link) {
+    LinkView nearest;
+    int best = 2 * kCells;
+    for (int from : link.from) {
+        for (int to : link.to) {
+            const int down = CellRow(from) - CellRow(to);
+            const int across = CellColumn(from) - CellColumn(to);
+            const int distance = down * down + across * across;
+            if (distance < best) {
+                best = distance;
+                nearest.fromCell = from;
+                nearest.toCell = to;
+            }
+        }
+    }
+    return nearest;
+}
+
+// The explanation follows these chains from end to end; the links of the other kinds only join.
+bool HasDirection(HintKind kind) {
+    constexpr std::array kChains = {HintKind::XYChain,         HintKind::DoubleImplication,
+                                    HintKind::NiceLoop,        HintKind::AlternatingChain,
+                                    HintKind::ForcingFromCell, HintKind::ForcingFromUnit};
+    return std::ranges::find(kChains, kind) != kChains.end();
+}
+
+bool IsRoleOnBoard(const Screen& screen, Role role) {
+    return std::ranges::any_of(screen.marks, [&](const auto& marks) {
+        return std::ranges::find(marks, role, &MarkView::role) != marks.end();
+    });
+}
+
+std::vector<LegendEntry> MakeLegend(const Screen& screen) {
+    const bool hasTwoColors = IsRoleOnBoard(screen, Role::Second);
+    const std::array<LegendEntry, 4> all = {{
+        {Role::Pattern, hasTwoColors ? "one color" : "pattern"},
+        {Role::Second, "other color"},
+        {Role::Attacked, "goes"},
+        {Role::Placed, "comes here"},
+    }};
+    std::vector<LegendEntry> legend;
+    std::ranges::copy_if(all, std::back_inserter(legend), [&](const LegendEntry& entry) {
+        return IsRoleOnBoard(screen, entry.role);
+    });
+    return legend;
+}
+
+}  // namespace
+
+void HintColors::ZetHintRij(int row) {
+    unitTint_ |= UnitOf(UnitKind::Row, row).set;
+    redLabels_[Index(UnitNumber(UnitKind::Row, row))] = true;
+}
+
+void HintColors::ZetHintKolom(int column) {
+    unitTint_ |= UnitOf(UnitKind::Column, column).set;
+    redLabels_[Index(UnitNumber(UnitKind::Column, column))] = true;
+}
+
+void HintColors::ZetHintBlok(int box) {
+    unitTint_ |= UnitOf(UnitKind::Box, box).set;
+}
+
+void HintColors::ZetHintNummer(int cell, int digit, Role role) {
+    roles_[Index(cell)][Index(digit - 1)] = role;
+}
+
+void HintColors::ClearRedLabels(UnitKind kind) {
+    std::fill_n(redLabels_.begin() + UnitNumber(kind, 0), 9, false);
+}
+
+bool HintColors::IsRedLabel(UnitKind kind, int index) const {
+    return redLabels_[Index(UnitNumber(kind, index))];
+}
+
+void HintColors::AddLink(HintKind kind, const ChainLink& link) {
+    LinkView view = NearestCells(link);
+    view.fromDigit = link.fromDigit;
+    view.toDigit = link.toDigit;
+    view.isStrong = link.strong;
+    view.isDirected = HasDirection(kind);
+    links_.push_back(view);
+}
+
+void HintColors::Show(const Find& find) {
+    for (std::size_t k = 0; k < find.units.Size(); ++k) {
+        const Unit& unit = find.UnitAt(k);
+        switch (unit.kind) {
+        case UnitKind::Row:
+            ZetHintRij(unit.index);
+            break;
+        case UnitKind::Column:
+            ZetHintKolom(unit.index);
+            break;
+        case UnitKind::Box:
+            ZetHintBlok(unit.index);
+            break;
+        }
+    }
+    for (int cell : find.cells) {
+        ZetHintVak(cell);
+        for (int digit : find.digits) {
+            ZetHintNummer(cell, digit);
+        }
+    }
+    for (const auto& [cell, digit] : find.removals) {
+        ZetAttackedCell(cell, digit);
+    }
+    for (const auto& [cell, digit] : find.placements) {
+        ZetHintNummer(cell, digit, Role::Placed);
+    }
+    for (const ChainLink& link : find.links) {
+        AddLink(find.kind, link);
+    }
+}
+
+void HintColors::PaintOn(Screen& screen) const {
+    for (int cell = 0; cell < kCells; ++cell) {
+        CellView& view = screen.cells[Index(cell)];
+        view.isHintCell = hintCells_.Has(cell);
+        view.isUnitTint = unitTint_.Has(cell);
+        view.isWrong = wrong_.Has(cell);
+        for (int digit = 1; digit <= kDigits; ++digit) {
+            MarkView& mark = screen.marks[Index(cell)][Index(digit - 1)];
+            mark.role = mark.isShown ? RoleOf(cell, digit) : Role::None;
+        }
+    }
+    for (int index = 0; index < 9; ++index) {
+        screen.rowLabels[Index(index)].isRed = IsRedLabel(UnitKind::Row, index);
+        screen.columnLabels[Index(index)].isRed = IsRedLabel(UnitKind::Column, index);
+    }
+    screen.links.insert(screen.links.end(), links_.begin(), links_.end());
+    screen.legend = MakeLegend(screen);
+}
+
+}  // namespace vemo

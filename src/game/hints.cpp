@@ -1,0 +1,206 @@
+// The hint command.
+#include "game/hints.h"
+
+#include "game/checks.h"
+#include "game/pencilmarks.h"
+#include "game/play_levels.h"
+#include "game/simple_hints.h"
+#include "solver/solver.h"
+
+namespace vemo {
+namespace {
+
+constexpr int kReportPenalty = 10;
+constexpr int kShowMePenalty = 20;
+constexpr const char* kSafeCellText = "A candidate can savely be assigned to the colored cell";
+
+// While a scan runs the board ignores clicks; Stop and the clock stay alive.
+class BusyScan {
+  public:
+    explicit BusyScan(Stage& stage) : session_(stage.session) {
+        session_.isFunctionBusy = true;
+        session_.isStopRequested = false;
+    }
+    ~BusyScan() { session_.isFunctionBusy = false; }
+    BusyScan(const BusyScan&) = delete;
+    BusyScan& operator=(const BusyScan&) = delete;
+
+  private:
+    Session& session_;
+};
+
+// Before each scan: its status text, and a chance for the window and for Stop.
+Solver::StepWatcher ScanWatcher(Stage& stage) {
+    return [&stage](const Step& step) {
+        stage.session.textHint = step.statusText;
+        stage.show();
+        stage.view.Yield();
+        return !stage.session.isStopRequested;
+    };
+}
+
+void Report(Stage& stage, const std::string& text) {
+    Speel(stage, Sound::Error);
+    stage.session.textHint = text;
+    Penalty(stage, kReportPenalty);
+}
+
+void TellNothingFound(Stage& stage, const char* text) {
+    Speel(stage, Sound::Giggle);
+    stage.session.textHint = text;
+}
+
+void GiveSimpleHint(Stage& stage) {
+    Session& session = stage.session;
+    std::optional<SimpleHint> hint;
+    {
+        const BusyScan busy(stage);
+        hint = SpecialHint(session.grid, ScanWatcher(stage));
+    }
+    if (session.isStopRequested) {
+        session.textHint.clear();
+        return;
+    }
+    if (!hint) {
+        TellNothingFound(stage, "No more logical hints, you'll have to guess");
+        return;
+    }
+    Speel(stage, Sound::Hint);
+    session.hintColors.ZetHintVak(hint->target.cell);
+    session.textHint = kSafeCellText;
+    session.showMe = hint->target;
+    Penalty(stage, hint->penalty);
+}
+
+// `SchrijfHint`, `ShowHint` and the colours of a find.
+void ShowFind(Stage& stage, const Find& find) {
+    Session& session = stage.session;
+    session.hintCaption = "Hint - " + std::string(HintTitle(find));
+    session.textHint = HintText(find);
+    session.hintColors.Show(find);
+    session.hint = find;
+}
+
+void GiveTechniqueHint(Stage& stage) {
+    Session& session = stage.session;
+    Solver solver(session.grid);
+    PassResult result = PassResult::Nothing;
+    {
+        const BusyScan busy(stage);
+        solver.SetStepWatcher(ScanWatcher(stage));
+        result = solver.Pass(HintLadder(stage.techniques));
+    }
+    if (result == PassResult::Stopped) {
+        session.textHint.clear();
+        return;
+    }
+    if (result != PassResult::Hint) {
+        TellNothingFound(stage, "No logical hints, you'll have to guess more than once...");
+        return;
+    }
+    Speel(stage, Sound::Hint);
+    ShowFind(stage, solver.LastFind());
+    Penalty(stage, solver.LastStep()->penalty);
+}
+
+bool ShowHiddenMarks(Stage& stage) {
+    if (stage.options.pencilmarks) {
+        return true;
+    }
+    if (!AskYesNo(stage, "Hidden pencilmarks detected",
+                  "All pencilmarks must be visible to make hints available. Make them visible ?")) {
+        return false;
+    }
+    TogglePencilmarksMode(stage);
+    return true;
+}
+
+}  // namespace
+
+void DropHint(Stage& stage) {
+    Session& session = stage.session;
+    session.hintColors.WisKleuren();
+    session.hint.reset();
+    session.hintCaption.clear();
+    session.showMe.reset();
+}
+
+bool ReportEntries(Stage& stage) {
+    Session& session = stage.session;
+    const Digits& solution = session.puzzle.solution;
+    if (const std::optional<int> cell = FindBadSolvedCell(session.grid, solution)) {
+        DropHint(stage);
+        session.hintColors.ZetHintVak(*cell);
+        session.hintColors.MarkWrong(*cell);
+        Report(stage, BadSolvedCellText(*cell, session.grid.Digit(*cell)));
+        return true;
+    }
+    if (const std::optional<int> cell = FindMissingCandidate(session.grid, solution)) {
+        DropHint(stage);
+        session.hintColors.ZetHintVak(*cell);
+        Report(stage, MissingCandidateText(*cell));
+        return true;
+    }
+    if (const std::optional<StaleMark> stale = FindStaleMark(session.grid)) {
+        DropHint(stage);
+        session.hintColors.ZetHintVak(stale->placedCell);
+        session.hintColors.ZetAttackedCell(stale->markedCell, stale->digit);
+        Report(stage, StaleMarkText(*stale));
+        return true;
+    }
+    return false;
+}
+
+void GiveHint(Stage& stage) {
+    if (!ShowHiddenMarks(stage) || ReportEntries(stage)) {
+        return;
+    }
+    DropHint(stage);
+    if (IsSimpleMode(stage)) {
+        GiveSimpleHint(stage);
+    } else {
+        GiveTechniqueHint(stage);
+    }
+}
+
+void ShowMe(Stage& stage) {
+    if (!stage.session.showMe) {
+        return;
+    }
+    const CellDigit target = *stage.session.showMe;
+    DropHint(stage);
+    Speel(stage, Sound::Hint);
+    stage.session.hintColors.ZetHintVak(target.cell);
+    stage.session.hintColors.ZetHintNummer(target.cell, target.digit, Role::Placed);
+    stage.session.textHint = kSafeCellText;
+    Penalty(stage, kShowMePenalty);
+}
+
+void ApplyHint(Stage& stage) {
+    Session& session = stage.session;
+    if (!session.hint || !session.IsPlaying()) {
+        return;
+    }
+    const Find find = *session.hint;
+    Joined joined = Joined::No;
+    for (const auto& [cell, digit] : find.placements) {
+        if (session.grid.KnopAan(cell, digit)) {
+            session.history.Place(session.grid, cell, digit, joined);
+            joined = Joined::Yes;
+        }
+    }
+    for (const auto& [cell, digit] : find.removals) {
+        // Kept: the Bivalue Universal Grave can speak against the solution; the right digit stays.
+        const bool isRight = session.puzzle.solution[cell] == digit;
+        if (session.grid.KnopAan(cell, digit) && !isRight) {
+            session.history.Discard(session.grid, cell, digit, joined);
+            joined = Joined::Yes;
+        }
+    }
+    DropHint(stage);
+    session.textHint.clear();
+    Speel(stage, find.placements.Empty() ? Sound::Discard : Sound::Assign);
+    ZetOpgelost(stage);
+}
+
+}  // namespace vemo

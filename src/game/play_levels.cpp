@@ -1,0 +1,455 @@
+// Levels and their puzzles.
+#include "game/play_levels.h"
+
+#include <algorithm>
+#include <charconv>
+#include <utility>
+
+#include "game/hints.h"
+#include "model/levels.h"
+
+namespace vemo {
+namespace {
+
+constexpr const char* kCannotOpen = "Can't open sudoku";
+
+void TellNoSudokus(Stage& stage, int level) {
+    stage.view.Beep();
+    Tell(stage, kCannotOpen, "No " + std::string(LevelName(level)) + " sudokus found to open",
+         BoxIcon::Warning);
+}
+
+void TellDamaged(Stage& stage, int number) {
+    Tell(stage, kCannotOpen,
+         "Sudoku number " + std::to_string(number) + " of this level is damaged", BoxIcon::Warning);
+}
+
+// The level whose puzzles Next and Open speak of: the one chosen during play, if any.
+int TargetLevel(const Session& session) {
+    return session.pendingLevel != 0 ? session.pendingLevel : session.level;
+}
+
+void AdoptPendingLevel(Stage& stage) {
+    Session& session = stage.session;
+    const int chosen = std::exchange(session.pendingLevel, 0);
+    if (chosen != 0 && chosen != session.level) {
+        session.level = chosen;
+        PrepareLevel(stage);
+    }
+}
+
+// Memory only: what was saved is still offered at the next start.
+void RememberOpened(Stage& stage, int number) {
+    stage.session.statistics.lastNumber = number;
+    stage.session.statistics.inProgress = false;
+}
+
+std::optional<PuzzleRecord> ReadWholePuzzle(Stage& stage, int level, int number) {
+    std::optional<PuzzleRecord> record = stage.files.ReadPuzzle(level, number);
+    return record && IsWhole(*record) ? record : std::nullopt;
+}
+
+// What lies over the board goes with the puzzle; the armed brushes and the filter stay.
+void ClearPlay(Session& session) {
+    session.history.Clear();
+    session.brushes.Clear();
+    session.links.Clear();
+    session.hintColors.WisKleuren();
+    session.hint.reset();
+    session.showMe.reset();
+    session.hintCaption.clear();
+    session.isAutosolved = false;
+    session.isStoppedByPlayer = false;
+    session.pointedMark = kNoMark;
+}
+
+void StartClock(Stage& stage, int elapsed) {
+    stage.session.clock.Start(stage.clock.SecondOfDay(), elapsed);
+    if (!stage.options.timeOn) {
+        stage.session.clock.Reset();
+    }
+}
+
+Grid GridOf(const PuzzleRecord& puzzle, const PlayState& state) {
+    Grid grid = Grid::FromClues(state.digits);
+    grid.SetGivens(Grid::FromClues(puzzle.clues).Givens());
+    for (int cell : grid.EmptyCells()) {
+        grid.WisKnop(cell);
+        const Marks marks = state.pencilMarks[static_cast<std::size_t>(cell)];
+        for (int digit = 1; digit <= kDigits; ++digit) {
+            if (HasMark(marks, digit)) {
+                grid.GiveBack(cell, digit);
+            }
+        }
+    }
+    return grid;
+}
+
+PlayState StateOf(const Stage& stage) {
+    const Session& session = stage.session;
+    PlayState state;
+    state.digits = session.grid.AllDigits();
+    if (stage.options.timeOn) {
+        state.elapsed = TimeOfSeconds(session.clock.Elapsed());
+    }
+    for (int cell : session.grid.EmptyCells()) {
+        state.pencilMarks[static_cast<std::size_t>(cell)] = session.grid.MarksAt(cell);
+    }
+    session.history.SaveTo(state);
+    return state;
+}
+
+bool IsBetter(int seconds, PlayTime best) {
+    return best.IsNone() || seconds < best.InSeconds();
+}
+
+// Writes the puzzle record back with its new best time.
+void BewaarBestTime(Stage& stage) {
+    const Session& session = stage.session;
+    if (stage.files.WritePuzzle(session.level, session.number, session.puzzle)) {
+        TellWriteFailed(stage);
+    }
+}
+
+void CountCompletion(Stage& stage, int seconds) {
+    Session& session = stage.session;
+    LevelStatistics& level = session.statistics;
+    const PlayTime time = TimeOfSeconds(seconds);
+    ++level.solvedCount;
+    level.totalMinutes += time.minutes;
+    level.totalSeconds += time.seconds;
+    level.average = AverageTime(level.totalMinutes, level.totalSeconds, level.solvedCount);
+    if (!IsBetter(seconds, session.puzzle.best)) {
+        return;
+    }
+    Tell(stage, "Congratulations", "New best time for this Sudoku!!!");
+    session.puzzle.best = time;
+    BewaarBestTime(stage);
+    if (IsBetter(seconds, level.best)) {
+        Tell(stage, "Congratulations", "New best time for this Level!!!");
+        level.best = time;
+    }
+}
+
+// The saved progress of the current puzzle is discarded.
+void AutoWisProgress(Stage& stage) {
+    const Session& session = stage.session;
+    if (stage.files.WritePlayState(session.level, session.number, PlayState{})) {
+        TellWriteFailed(stage);
+    }
+}
+
+void WriteStatistics(Stage& stage) {
+    if (stage.files.WriteStatistics(stage.session.level, stage.session.statistics)) {
+        TellWriteFailed(stage);
+    }
+}
+
+// Changes the times of a level in its file and in memory alike; which puzzle was opened last and
+// whether it is offered stays as each of the two has it.
+void ForgetTimes(LevelStatistics& statistics, const LevelStatistics& changed) {
+    statistics.best = changed.best;
+    statistics.solvedCount = changed.solvedCount;
+    statistics.totalMinutes = changed.totalMinutes;
+    statistics.totalSeconds = changed.totalSeconds;
+    statistics.average = changed.average;
+}
+
+bool IsNumberOf(const std::string& text, int count, int& number) {
+    const char* end = text.data() + text.size();
+    const auto [stopped, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && stopped == end && number >= 1 && number <= count;
+}
+
+std::string Trimmed(const std::string& text) {
+    const std::size_t first = text.find_first_not_of(" \t");
+    return first == std::string::npos
+               ? std::string()
+               : text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+}  // namespace
+
+void PrepareLevel(Stage& stage) {
+    stage.session.statistics = stage.files.ReadStatistics(stage.session.level);
+}
+
+void ChooseLevel(Stage& stage, int level) {
+    Session& session = stage.session;
+    session.pendingLevel = level;
+    if (session.phase == PlayPhase::Finished || session.phase == PlayPhase::SolutionShown) {
+        CloseSudoku(stage);
+    }
+    if (session.IsPlaying()) {
+        Tell(stage, "Changed level",
+             "Statusbar will be updated after completion of the current sudoku");
+        return;
+    }
+    session.pendingLevel = 0;
+    session.level = level;
+    session.textHint = "Open a sudoku with Next, or by its number with Open.";
+    PrepareLevel(stage);
+    ContinueLastBusy(stage);
+}
+
+void NextPuzzle(Stage& stage) {
+    const int level = TargetLevel(stage.session);
+    const int count = stage.files.PuzzleCount(level);
+    if (count == 0) {
+        TellNoSudokus(stage, level);
+        if (level == stage.session.level) {
+            RememberOpened(stage, 0);
+        }
+        return;
+    }
+    const LevelStatistics statistics =
+        level == stage.session.level ? stage.session.statistics : stage.files.ReadStatistics(level);
+    const int first = count > statistics.lastNumber ? statistics.lastNumber + 1 : 1;
+    // A damaged record is told of once, and passed over.
+    for (int tried = 0; tried < count; ++tried) {
+        const int number = (first - 1 + tried) % count + 1;
+        if (LoadSudoku(stage, level, number)) {
+            return;
+        }
+        if (tried == 0) {
+            TellDamaged(stage, number);
+        }
+    }
+}
+
+void OpenByNumber(Stage& stage) {
+    const int level = TargetLevel(stage.session);
+    const int count = stage.files.PuzzleCount(level);
+    if (count == 0) {
+        TellNoSudokus(stage, level);
+        return;
+    }
+    stage.show();
+    const std::optional<std::string> answer = stage.view.Ask(
+        {"Sudoku number", "Enter a value between 1 and " + std::to_string(count), ""});
+    const std::string text = Trimmed(answer.value_or(""));
+    if (text.empty()) {
+        return;
+    }
+    int number = 0;
+    if (!IsNumberOf(text, count, number)) {
+        TellNoSudokus(stage, level);
+    } else if (!LoadSudoku(stage, level, number)) {
+        TellDamaged(stage, number);
+    }
+}
+
+bool LoadSudoku(Stage& stage, int level, int number) {
+    const std::optional<PuzzleRecord> record = ReadWholePuzzle(stage, level, number);
+    if (!record) {
+        return false;
+    }
+    Session& session = stage.session;
+    if (session.level != level) {
+        session.pendingLevel = level;
+    }
+    AdoptPendingLevel(stage);
+    RememberOpened(stage, number);
+    ClearPlay(session);
+    session.phase = PlayPhase::Playing;
+    session.number = number;
+    session.puzzle = *record;
+    session.grid = Grid::FromClues(record->clues);
+    session.selectedCell =
+        session.grid.EmptyCells().Any() ? session.grid.EmptyCells().First() : kNoCell;
+    session.textHint = HelpText();
+    StartClock(stage, 0);
+    return true;
+}
+
+bool OpenLastSudoku(Stage& stage, int level, int number) {
+    if (!LoadSudoku(stage, level, number)) {
+        return false;
+    }
+    Session& session = stage.session;
+    const PlayState state = stage.files.ReadPlayState(level, number);
+    if (BelongsTo(state, session.puzzle)) {
+        session.grid = GridOf(session.puzzle, state);
+        session.history.LoadFrom(state);
+        StartClock(stage, state.elapsed.InSeconds());
+    }
+    return true;
+}
+
+void ContinueLastBusy(Stage& stage) {
+    LevelStatistics& statistics = stage.session.statistics;
+    if (statistics.lastNumber < 1 || !statistics.inProgress) {
+        return;
+    }
+    const int number = statistics.lastNumber;
+    if (AskYesNo(stage, "Sudoku in progress",
+                 "Do you want to proceed with the last saved sudoku ?")) {
+        if (OpenLastSudoku(stage, stage.session.level, number)) {
+            statistics.inProgress = true;
+            return;
+        }
+        Tell(stage, "File error", "Could not open the last saved sudoku");
+    }
+    statistics.inProgress = false;
+}
+
+void CloseSudoku(Stage& stage) {
+    Session& session = stage.session;
+    ClearPlay(session);
+    session.phase = PlayPhase::NoPuzzle;
+    session.number = 0;
+    session.puzzle = PuzzleRecord();
+    session.grid = Grid();
+    session.clock.Reset();
+    session.selectedCell = kNoCell;
+    session.textHint.clear();
+}
+
+SaveRefusal WhySaveRefuses(const Stage& stage) {
+    const Session& session = stage.session;
+    if (session.phase == PlayPhase::Finished) {
+        return SaveRefusal::Solved;
+    }
+    if (!session.IsPlaying()) {
+        return SaveRefusal::NoPuzzle;
+    }
+    if (!session.history.CanUndo()) {
+        return SaveRefusal::NotChanged;
+    }
+    return session.isAutosolved ? SaveRefusal::Autosolved : SaveRefusal::None;
+}
+
+void SaveCommand(Stage& stage) {
+    switch (WhySaveRefuses(stage)) {
+    case SaveRefusal::Solved:
+        Tell(stage, "Sudoku solved", "Sudoku already solved, you can only save unsolved sudokus !");
+        break;
+    case SaveRefusal::NotChanged:
+        Tell(stage, "Sudoku not in progress",
+             "You cannot save a sudoku that hasn't been changed since it was opened !");
+        break;
+    case SaveRefusal::Autosolved:
+        Tell(stage, "Sudoku Autosolved",
+             "Autosolve function is invoked at the current sudoku, therefore you cannot save "
+             "this sudoku !");
+        break;
+    case SaveRefusal::NoPuzzle:
+        break;
+    case SaveRefusal::None:
+        SaveProgress(stage);
+        break;
+    }
+}
+
+bool SaveProgress(Stage& stage) {
+    Session& session = stage.session;
+    SaveLastLevel(stage.settings, session.level);
+    LevelStatistics statistics = session.statistics;
+    statistics.lastNumber = session.number;
+    statistics.inProgress = true;
+    if (stage.files.WriteStatistics(session.level, statistics) ||
+        stage.files.WritePlayState(session.level, session.number, StateOf(stage))) {
+        TellWriteFailed(stage);
+        return false;
+    }
+    session.statistics = statistics;
+    return true;
+}
+
+void ZetOpgelost(Stage& stage) {
+    Session& session = stage.session;
+    if (!session.IsPlaying() || session.grid.AllDigits() != session.puzzle.solution) {
+        return;
+    }
+    if (stage.options.timeOn) {
+        session.clock.Tick(stage.clock.SecondOfDay());
+    }
+    session.clock.Stop();
+    session.phase = PlayPhase::Finished;
+    if (stage.options.timeOn && !session.isAutosolved) {
+        CountCompletion(stage, session.clock.Elapsed());
+    }
+    Speel(stage, Sound::Applause);
+    session.statistics.inProgress = false;
+    AutoWisProgress(stage);
+    SaveLastLevel(stage.settings, session.level);
+    WriteStatistics(stage);
+    if (session.pendingLevel != 0 && session.pendingLevel != session.level) {
+        // The finished grid stays to be seen, but it is none of the new level's puzzles.
+        session.number = 0;
+        AdoptPendingLevel(stage);
+        ContinueLastBusy(stage);
+    }
+    session.pendingLevel = 0;
+}
+
+void EraseSudokuTime(Stage& stage) {
+    Session& session = stage.session;
+    std::optional<PuzzleRecord> puzzle = stage.files.ReadPuzzle(session.level, session.number);
+    if (!puzzle) {
+        TellWriteFailed(stage);
+        return;
+    }
+    LevelStatistics statistics = stage.files.ReadStatistics(session.level);
+    // Kept: every solve was added to the totals, but only the best one is taken off them.
+    statistics.totalMinutes -= puzzle->best.minutes;
+    statistics.totalSeconds -= puzzle->best.seconds;
+    statistics.solvedCount = std::max(statistics.solvedCount - 1, 0);
+    statistics.average =
+        AverageTime(statistics.totalMinutes, statistics.totalSeconds, statistics.solvedCount);
+    puzzle->best = PlayTime();
+    if (stage.files.WritePuzzle(session.level, session.number, *puzzle) ||
+        stage.files.WriteStatistics(session.level, statistics)) {
+        TellWriteFailed(stage);
+        return;
+    }
+    session.puzzle.best = PlayTime();
+    ForgetTimes(session.statistics, statistics);
+}
+
+void EraseLevelTime(Stage& stage) {
+    Session& session = stage.session;
+    LevelStatistics statistics = stage.files.ReadStatistics(session.level);
+    statistics.best = PlayTime();
+    if (stage.files.EraseBestTimes(session.level) ||
+        stage.files.WriteStatistics(session.level, statistics)) {
+        TellWriteFailed(stage);
+        return;
+    }
+    session.puzzle.best = PlayTime();
+    ForgetTimes(session.statistics, statistics);
+}
+
+void EraseAllTime(Stage& stage) {
+    std::array<LevelStatistics, kLevels> all;
+    bool hasFailed = false;
+    for (int level = 1; level <= kLevels; ++level) {
+        LevelStatistics& statistics = all[static_cast<std::size_t>(level - 1)];
+        statistics = stage.files.ReadStatistics(level);
+        ForgetTimes(statistics, LevelStatistics());
+        hasFailed |= stage.files.EraseBestTimes(level).has_value();
+    }
+    hasFailed |= stage.files.WriteAllStatistics(all).has_value();
+    if (hasFailed) {
+        TellWriteFailed(stage);
+        return;
+    }
+    stage.session.puzzle.best = PlayTime();
+    ForgetTimes(stage.session.statistics, LevelStatistics());
+}
+
+std::array<std::string, kStatusPanels> StatusPanels(const Session& session) {
+    const bool hasPuzzle = session.number != 0;
+    const LevelStatistics& level = session.statistics;
+    const bool hasLevelTimes = !level.best.IsNone();
+    return {
+        // Before the first choice of a level the panel names Medium.
+        "Level: " + std::string(session.level == 0 ? LevelName(2) : LevelName(session.level)),
+        "Number: " + (hasPuzzle ? std::to_string(session.number) : std::string("none")),
+        "Time to Beat: " + FormatTime(hasPuzzle ? session.puzzle.best : PlayTime()),
+        "Level Best Time: " + FormatTime(hasLevelTimes ? level.best : PlayTime()),
+        "Level Average Time: " + FormatTime(hasLevelTimes ? level.average : PlayTime()),
+    };
+}
+
+}  // namespace vemo

@@ -1,0 +1,46 @@
+// Levels and their puzzles: choosing, opening, saving, completing, and the times that are kept.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "game/stage.h"
+
+namespace vemo {
+
+// Reads the statistics of the current level.
+void PrepareLevel(Stage& stage);
+void ChooseLevel(Stage& stage, int level);
+
+void NextPuzzle(Stage& stage);
+void OpenByNumber(Stage& stage);
+
+// Loads puzzle `number` of a level with its clues alone; the clock starts at 0:00. False where the
+// record is missing or damaged: the puzzle in play stays.
+bool LoadSudoku(Stage& stage, int level, int number);
+// Loads it with its saved play state, or from its clues where none belongs to it.
+bool OpenLastSudoku(Stage& stage, int level, int number);
+// Offers the level's unfinished puzzle, if there is one.
+void ContinueLastBusy(Stage& stage);
+
+// No puzzle is open any more.
+void CloseSudoku(Stage& stage);
+
+enum class SaveRefusal : std::uint8_t { None, Solved, NotChanged, Autosolved, NoPuzzle };
+SaveRefusal WhySaveRefuses(const Stage& stage);
+// The command: refusals and failures are told.
+void SaveCommand(Stage& stage);
+// Stores level, statistics and play state; false, with a box, where a write failed.
+bool SaveProgress(Stage& stage);
+
+// After every step: a grid filled correctly is completed.
+void ZetOpgelost(Stage& stage);
+
+void EraseSudokuTime(Stage& stage);
+void EraseLevelTime(Stage& stage);
+void EraseAllTime(Stage& stage);
+
+// The five panels of the status bar.
+std::array<std::string, kStatusPanels> StatusPanels(const Session& session);
+
+}  // namespace vemo

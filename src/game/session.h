@@ -1,0 +1,66 @@
+// What is being played: the puzzle, the state of play, and what lies over the board.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "game/brushes.h"
+#include "game/hint_colors.h"
+#include "game/history.h"
+#include "game/play_clock.h"
+#include "model/grid.h"
+#include "model/records.h"
+#include "solver/find.h"
+
+namespace vemo {
+
+// What has become of the current puzzle.
+enum class PlayPhase : std::uint8_t {
+    NoPuzzle,  // none is open; the board is off
+    Playing,
+    Finished,       // completed; the board is off until another puzzle is opened
+    SolutionShown,  // by the command Solution; only Restart goes on
+};
+
+// The pointer is over no mark: cell * 9 + digit - 1 otherwise.
+inline constexpr int kNoMark = 729;
+
+struct Session {
+    PlayPhase phase = PlayPhase::NoPuzzle;
+    int level = 0;         // 1..9, 0: none yet
+    int pendingLevel = 0;  // chosen during play; becomes the level later. 0: none
+    int number = 0;        // the current puzzle's number in its level, 0: none
+    PuzzleRecord puzzle;
+    LevelStatistics statistics;  // of `level`
+
+    Grid grid;
+    History history;
+    PlayClock clock;
+    bool isAutosolved = false;       // Autosolve has run on this puzzle
+    bool isStoppedByPlayer = false;  // the Pause key: the board is covered
+    bool isMinimized = false;
+
+    int selectedCell = kNoCell;
+    int pointedMark = kNoMark;
+    int digitFilter = 0;
+    Brushes brushes;
+    Links links;
+
+    HintColors hintColors;
+    std::optional<Find> hint;  // the hint on display, while it can be applied
+    std::string hintCaption;   // empty: no hint on display
+    std::string textHint;
+    std::optional<CellDigit> showMe;  // the pending target of Show Me
+
+    // The two busy flags: a hint scan or Autosolve, and a scan over several puzzles.
+    bool isFunctionBusy = false;
+    bool isScanBusy = false;
+
+    bool isStopRequested = false;  // by the command Stop, while busy
+
+    bool IsBusy() const { return isFunctionBusy || isScanBusy; }
+    bool IsPlaying() const { return phase == PlayPhase::Playing; }
+    bool IsFull() const { return !grid.EmptyCells().Any(); }
+};
+
+}  // namespace vemo

@@ -1,0 +1,83 @@
+// What the parts of the game share: the platform, the front end, and the game's own state.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "game/options.h"
+#include "game/session.h"
+#include "game/view.h"
+#include "model/files.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/folders.h"
+#include "platform/settings_store.h"
+#include "platform/sounds.h"
+#include "solver/settings.h"
+
+namespace vemo {
+
+// The system under the game; each reference outlives the game.
+struct Platform {
+    SettingsStore& settings;
+    Folders& folders;
+    Files& files;
+    Sounds& sounds;
+    Clock& clock;
+};
+
+struct Stage {
+    Stage(const Platform& system, View& frontEnd);
+
+    SettingsStore& settings;
+    Folders& folders;
+    Sounds& sounds;
+    Clock& clock;
+    View& view;
+    RecordFiles files;
+
+    Options options;
+    Colors colors;
+    TechniqueSettings techniques;
+    Session session;
+
+    // Makes the screen anew and has it painted; set by the game. Called before every box and every
+    // yield, so that the player never looks at an old state.
+    std::function<void()> show;
+};
+
+// The numbers of the ten sounds are their slots.
+enum class Sound : std::uint8_t {
+    Applause,
+    Discard,
+    Assign,
+    ResetCell,
+    Solution,
+    Label,
+    UndoRedo,
+    Hint,
+    Error,
+    Giggle,
+};
+// Plays nothing while the sounds are switched off.
+void Speel(Stage& stage, Sound sound);
+
+// Charges the clock; nothing while the timer is switched off.
+void Penalty(Stage& stage, int seconds);
+
+// On levels 1..3 with "Pencilmarks off in first 3 levels": the simple display and simple hints.
+bool IsSimpleMode(const Stage& stage);
+
+// The text of a puzzle just loaded or restarted.
+std::string HelpText();
+
+// A message box with an OK button.
+void Tell(Stage& stage, const std::string& title, const std::string& text,
+          BoxIcon icon = BoxIcon::None);
+// A box with Yes and No; true for Yes.
+bool AskYesNo(Stage& stage, const std::string& title, const std::string& text);
+
+// A file of the game could not be written.
+void TellWriteFailed(Stage& stage);
+
+}  // namespace vemo

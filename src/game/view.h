@@ -1,0 +1,51 @@
+// What the game may ask of a front end: the few calls that wait for the player or leave the
+// program. Everything else that the player sees is the Screen.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace vemo {
+
+enum class BoxButtons : std::uint8_t { Ok, YesNo, AbortRetryIgnore };
+enum class BoxIcon : std::uint8_t { None, Warning };
+enum class Answer : std::uint8_t { Ok, Yes, No, Abort, Retry, Ignore };
+
+// A modal message box.
+struct Box {
+    std::string title;
+    std::string text;
+    BoxButtons buttons = BoxButtons::Ok;
+    BoxIcon icon = BoxIcon::None;
+};
+
+// A modal box with one line of input.
+struct Question {
+    std::string title;
+    std::string prompt;
+    std::string suggestion;
+};
+
+class View {
+  public:
+    virtual ~View() = default;
+
+    // Waits for the answer. A box that is closed answers Ok, No or Ignore.
+    virtual Answer ShowBox(const Box& box) = 0;
+    // Nothing where the player cancels.
+    virtual std::optional<std::string> Ask(const Question& question) = 0;
+
+    // Lets the window handle its events; events may reach the game meanwhile.
+    virtual void Yield() = 0;
+    // The screen has changed.
+    virtual void Refresh() = 0;
+
+    // The system's own beep, none of the game's ten sounds.
+    virtual void Beep() = 0;
+    virtual void OpenLink(const std::string& address) = 0;
+    // The game has ended: close the window without asking the game again.
+    virtual void Close() = 0;
+};
+
+}  // namespace vemo

@@ -1,0 +1,159 @@
+// What each command answers.
+#include <algorithm>
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "cli/invoke.h"
+#include "model/files.h"
+#include "platform/plain_files.h"
+
+namespace vemo {
+namespace {
+
+const std::string kSolution =
+    "123456789456789123789123456234567891567891234891234567345678912678912345912345678";
+const std::string kUnique = "." + kSolution.substr(1);
+const std::string kClash = "11" + std::string(79, '.');
+
+// Without the digits 1 and 2, which can change places.
+std::string Ambiguous() {
+    std::string puzzle = kSolution;
+    for (char& cell : puzzle) {
+        cell = cell <= '2' ? '.' : cell;
+    }
+    return puzzle;
+}
+
+// An open grid whose only pattern is the pair 1, 2 at A1 and A2, of row A and of the first box.
+std::string NakedPairPosition() {
+    std::string line = std::string(81, '.') + "\t12,12";
+    for (int cell = 2; cell < 81; ++cell) {
+        line += ",123456789";
+    }
+    return line + '\n';
+}
+
+std::string Removals(const std::vector<std::string>& cells) {
+    std::string text;
+    for (const std::string& cell : cells) {
+        text += "remove " + cell + " 1\nremove " + cell + " 2\n";
+    }
+    return text + '\n';
+}
+
+const std::string kPairOfRow = Removals({"A3", "A4", "A5", "A6", "A7", "A8", "A9"});
+const std::string kPairOfBox = Removals({"A3", "B1", "B2", "B3", "C1", "C2", "C3"});
+
+void ExpectRun(const std::vector<std::string>& words, const std::string& input, ExitCode code,
+               const std::string& out) {
+    const Outcome result = Invoke(words, input);
+    EXPECT_EQ(result.code, code) << words[0];
+    EXPECT_EQ(result.out, out) << words[0];
+    EXPECT_EQ(result.err, "") << words[0];
+}
+
+TEST(Solve, CountsTheSolutionsOfEachPuzzle) {
+    ExpectRun(
+        {"solve", "-"}, kUnique + "\n" + kSolution, ExitCode::Fine,
+        kUnique + "\tunique\t" + kSolution + "\n" + kSolution + "\tunique\t" + kSolution + "\n");
+    ExpectRun({"solve", "-"}, kClash + "\n" + Ambiguous() + "\n", ExitCode::FaultyLine,
+              kClash + "\tnone\t\n" + Ambiguous() + "\tmultiple\t\n");
+    ExpectRun({"solve", "--jsonl", "-"}, "# one\n" + kUnique + "\n", ExitCode::Fine,
+              R"({"line":2,"puzzle":")" + kUnique + R"(","result":"unique","solution":")" +
+                  kSolution + "\"}\n");
+}
+
+TEST(Rate, NamesLevelHardestTechniqueAndSteps) {
+    const std::string fields = "\t1\tEasy\tHidden Single\t1\n";
+    const std::string log = "Hidden Single 1 in box at cell A1";
+    ExpectRun({"rate", "-"}, kUnique, ExitCode::Fine, kUnique + fields);
+    ExpectRun({"rate", "--log", "-"}, kUnique, ExitCode::Fine, kUnique + fields + log + "\n");
+    ExpectRun({"rate", "-"}, kClash + "\n" + Ambiguous(), ExitCode::FaultyLine,
+              kClash + "\t0\tnone\t\t0\n" + Ambiguous() + "\t0\tmultiple\t\t0\n");
+    ExpectRun({"rate", "--jsonl", "--log", "-"}, kUnique, ExitCode::Fine,
+              R"({"line":1,"puzzle":")" + kUnique +
+                  R"(","level":1,"name":"Easy","hardest":"Hidden Single","steps":1,"log":[")" +
+                  log + "\"]}\n");
+}
+
+TEST(Rate, TheCorpusHoldsTheLevelsThatItNames) {
+    const Outcome result = Invoke({"rate", VEMO_TEST_DATA "/corpus.txt"});
+    EXPECT_EQ(result.code, ExitCode::Fine);
+    EXPECT_EQ(result.err, "");
+    std::istringstream lines(result.out);
+    int number = 0;
+    for (std::string line; std::getline(lines, line); ++number) {
+        const int level = line.at(82) - '0';
+        EXPECT_TRUE(number % 4 < 3 ? level == number % 4 + 1 : level > 3) << line;
+    }
+    EXPECT_EQ(number, 400);
+}
+
+TEST(Hint, ExplainsTheNextStep) {
+    const std::string text =
+        "HIDDEN SINGLE: Since number 1 in the top left block appears only at cell A1, it must be "
+        "there";
+    ExpectRun({"hint", "-"}, kUnique + "\n" + kSolution + "\n" + NakedPairPosition(),
+              ExitCode::Fine,
+              "Hidden single\n" + text +
+                  "\nplace A1 1\n\nnone\n\nNaked Pair\nNAKED PAIR: Since "
+                  "cells A1 and A2 in row A contains only the candidates 1 and 2, those candidates "
+                  "can't appear anywhere else in that row\n" +
+                  kPairOfRow);
+    ExpectRun({"hint", "--jsonl", "-"}, kUnique + "\n" + kSolution, ExitCode::Fine,
+              R"({"line":1,"title":"Hidden single","text":")" + text +
+                  R"(","place":[{"cell":"A1","digit":1}],"remove":[]})" + "\n" +
+                  R"({"line":2,"title":"","text":"","place":[],"remove":[]})" + "\n");
+}
+
+TEST(Find, LooksForOneKindOfStepAlone) {
+    const std::string position = NakedPairPosition();
+    const std::string removed = " => Removed candidates 1 and 2 from cells ";
+    const std::string all = "Naked Pair: Row A" + removed + "A3 A4 A5 A6 A7 A8 A9\n" + kPairOfRow +
+                            "Naked Pair: Box 1" + removed + "A3 B1 B2 B3 C1 C2 C3\n" + kPairOfBox;
+    ExpectRun({"find", "--technique", "Naked Pair", "-"}, position, ExitCode::Fine, kPairOfRow);
+    ExpectRun({"find", "--technique", "Naked Pair", "--all", "-"}, position, ExitCode::Fine, all);
+    ExpectRun({"find", "--slot", "7", "-"}, position, ExitCode::Fine, kPairOfRow);
+    ExpectRun({"find", "--technique", "Hidden Pair", "-"}, position + kUnique, ExitCode::Fine,
+              "none\n\nnone\n\n");
+    // Both units of the single place the same digit: one find.
+    ExpectRun({"find", "--slot", "3", "--all", "--jsonl", "-"}, kUnique, ExitCode::Fine,
+              R"({"line":1,"finds":[{"title":"Hidden single","log":)"
+              R"("Hidden Single 1 in box at cell A1","place":[{"cell":"A1","digit":1}],)"
+              R"("remove":[]}]})"
+              "\n");
+}
+
+TEST(MakeLevels, WritesNineFilesAndSparesAPlayersFolder) {
+    namespace fs = std::filesystem;
+    const fs::path folder = fs::path(testing::TempDir()) / "vemo_make_levels_test";
+    fs::remove_all(folder);
+    const std::vector<std::string> words = {"make-levels", "--output", folder.string(),
+                                            "--count=2"};
+    const Outcome result = Invoke(words);
+    EXPECT_EQ(result.code, ExitCode::Fine) << result.err;
+    PlainFiles files;
+    RecordFiles records(files, folder);
+    for (int level = 1; level <= kLevels; ++level) {
+        EXPECT_EQ(records.PuzzleCount(level), 2);
+    }
+    EXPECT_FALSE(records.CreateProgressFile(4, 2).has_value());
+    const Outcome refused = Invoke(words);
+    EXPECT_EQ(refused.code, ExitCode::InputOutput);
+    EXPECT_NE(refused.err.find("progress"), std::string::npos);
+
+    const fs::path list = folder / "list.txt";
+    EXPECT_EQ(Invoke({"make-levels", "--corpus", list.string(), "--corpus-count", "4"}).code,
+              ExitCode::Fine);
+    const Outcome solved = Invoke({"solve", list.string()});
+    EXPECT_EQ(solved.code, ExitCode::Fine);
+    EXPECT_EQ(std::ranges::count(solved.out, '\n'), 4);
+    fs::remove_all(folder);
+}
+
+}  // namespace
+}  // namespace vemo

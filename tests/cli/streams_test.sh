@@ -1,0 +1,60 @@
+#!/usr/bin/env bash
+# The program on the streams of the system: exit codes, a full disk, a closed pipe, prompt answers.
+# Usage: streams_test.sh PROGRAM LIST
+set -uo pipefail
+program=$1
+list=$2
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+failures=0
+
+Fail() { # MESSAGE
+    echo "failed: $1" >&2
+    failures=$((failures + 1))
+}
+
+# The exit code of a command, what it wrote to standard error in $scratch/err.
+Expect() { # NAME CODE MESSAGE COMMAND...
+    local name=$1 code=$2 message=$3 got=0
+    shift 3
+    "$@" 2>"$scratch/err" || got=$?
+    [[ $got == "$code" ]] || Fail "$name: exit code $got instead of $code"
+    if [[ -n $message ]]; then
+        grep -qF -- "$message" "$scratch/err" || Fail "$name: no \"$message\" in: $(cat "$scratch/err")"
+    elif [[ -s $scratch/err ]]; then
+        Fail "$name: said: $(cat "$scratch/err")"
+    fi
+}
+
+ReadList() { "$program" rate - <"$list" >"$scratch/out"; }
+ReadBadLine() { echo 123 | "$program" solve - >"$scratch/out"; }
+WriteToFullDisk() { "$program" "$@" >/dev/full; }
+WriteToClosedPipe() {
+    # More than a pipe holds, so that the reader is gone before the last line.
+    { for _ in 1 2 3 4 5; do cat "$list"; done | "$program" rate --log -; } | true
+    return "${PIPESTATUS[0]}"
+}
+
+Expect 'a list on standard input' 0 '' ReadList
+[[ $(wc -l <"$scratch/out") == $(grep -vc '^#' "$list") ]] || Fail 'a list: not one line a puzzle'
+Expect 'a bad line' 1 'line 1: the grid field has 3 characters' ReadBadLine
+Expect 'a wrong option' 2 '--foo' "$program" rate --foo -
+Expect 'a missing file' 3 "$scratch/missing" "$program" rate "$scratch/missing"
+Expect 'a folder as the file' 3 "$scratch" "$program" rate "$scratch"
+if [[ -c /dev/full ]]; then
+    Expect 'a full disk' 3 'cannot be written' WriteToFullDisk rate "$list"
+    Expect 'help on a full disk' 3 'cannot be written' WriteToFullDisk --help
+fi
+Expect 'a closed pipe' 3 'cannot be written' WriteToClosedPipe
+
+# An answer comes before the next line is asked for.
+coproc session { "$program" rate -; }
+pid=$session_PID
+exec {input}>&"${session[1]}" {output}<&"${session[0]}"
+grep -m 1 -v '^#' "$list" >&"$input"
+read -r -t 20 answer <&"$output" || Fail 'the answer waits for more input'
+[[ ${answer:-} == *$'\t'Easy$'\t'* ]] || Fail "the answer is: ${answer:-}"
+exec {input}>&- {session[1]}>&-
+wait "$pid" || Fail 'the end of the input is a fault'
+
+((failures == 0))

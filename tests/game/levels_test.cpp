@@ -1,0 +1,241 @@
+// Levels, opening, saving, completing, and the times that are kept.
+#include "game/support.h"
+
+namespace vemo::test {
+namespace {
+
+const std::vector<int> kOpen = {0, 1, 40, 80};
+const std::string kNewSudokuTime = "New best time for this Sudoku!!!";
+const std::string kNewLevelTime = "New best time for this Level!!!";
+
+class LevelsTest : public GameTest {
+  protected:
+    LevelsTest() {
+        Ship({PuzzleWithOpen(kOpen), PuzzleWithOpen({0, 5}), PuzzleWithOpen({0, 7})});
+        StartFirst();
+    }
+    void Complete(const std::vector<int>& open, int seconds) {
+        clock.second += seconds;
+        FillAll(open);
+    }
+    void ExpectBoth() {
+        view.Expect("Congratulations", kNewSudokuTime);
+        view.Expect("Congratulations", kNewLevelTime);
+    }
+    LevelStatistics Kept(int level) { return Records().ReadStatistics(level); }
+};
+
+TEST_F(LevelsTest, TheFirstCompletionIsTheBestOfPuzzleAndLevel) {
+    OpenFirst(1);
+    EXPECT_EQ(Seen().status[0], "Level: Easy");
+    EXPECT_EQ(Seen().status[1], "Number: 1");
+    ExpectBoth();
+    Complete(kOpen, 61);
+    EXPECT_EQ(Seen().status[2], "Time to Beat: 01:01");
+    EXPECT_EQ(Seen().status[3], "Level Best Time: 01:01");
+    EXPECT_EQ(Seen().status[4], "Level Average Time: 01:01");
+    EXPECT_EQ(Records().ReadPuzzle(1, 1)->best, (PlayTime{1, 1}));
+    EXPECT_EQ(sounds.played.size(), 0u) << "the sounds are off by default";
+    EXPECT_FALSE(Seen().isBoardEnabled);
+    for (CommandId off :
+         {CommandId::SolveRestart, CommandId::SolveUndo, CommandId::SolveRedo,
+          CommandId::SolveResetCell, CommandId::SolveHint, CommandId::SolveSolution}) {
+        EXPECT_FALSE(Seen().Command(off).isEnabled);
+    }
+    EXPECT_TRUE(Seen().Command(CommandId::SudokuNext).isEnabled);
+}
+
+TEST_F(LevelsTest, TheAverageIsRoundedAndTheBestIsOnlyBeatenByLess) {
+    OpenFirst(1);
+    ExpectBoth();
+    Complete(kOpen, 61);
+    game->mnuSudokuNext();
+    view.Expect("Congratulations", kNewSudokuTime);
+    Complete({0, 5}, 62);
+    EXPECT_EQ(Seen().status[4], "Level Average Time: 01:02");
+    EXPECT_EQ(Kept(1).totalMinutes, 2);
+    EXPECT_EQ(Kept(1).totalSeconds, 3);
+
+    // The same time again is no new best; it is counted all the same.
+    view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", "2");
+    game->mnuSudokuOpen();
+    Complete({0, 5}, 62);
+    EXPECT_EQ(Kept(1).solvedCount, 3);
+    // A better puzzle time that is no better level time.
+    view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", " 3 ");
+    game->mnuSudokuOpen();
+    view.Expect("Congratulations", kNewSudokuTime);
+    Complete({0, 7}, 100);
+    EXPECT_EQ(Seen().status[3], "Level Best Time: 01:01");
+}
+
+TEST_F(LevelsTest, WithTheTimerOffNothingIsCounted) {
+    game->mnuOptionsTimer();
+    OpenFirst(1);
+    Complete(kOpen, 61);
+    EXPECT_FALSE(Seen().isBoardEnabled);
+    EXPECT_EQ(Kept(1).solvedCount, 0);
+    EXPECT_TRUE(Records().ReadPuzzle(1, 1)->best.IsNone());
+}
+
+TEST_F(LevelsTest, AFullButWrongGridShowsNothing) {
+    files.WriteAt(Records().PuzzlePath(1), 0, Pack(PuzzleWithOpen(FirstTwoRows())));
+    OpenFirst(1);
+    const Digits solution = PlainSolution();
+    for (int cell : FirstTwoRows()) {
+        Assign(cell, solution[static_cast<std::size_t>((cell + 9) % 18)]);
+    }
+    EXPECT_NE(Seen().cells[17].digit, 0);
+    EXPECT_TRUE(Seen().isBoardEnabled);
+    EXPECT_EQ(Kept(1).solvedCount, 0);
+}
+
+TEST_F(LevelsTest, NextCountsUpAndStartsAgainAtOne) {
+    OpenFirst(3);
+    game->mnuSudokuNext();
+    game->mnuSudokuNext();
+    EXPECT_EQ(Seen().status[1], "Number: 3");
+    game->mnuSudokuNext();
+    EXPECT_EQ(Seen().status[1], "Number: 1");
+}
+
+TEST_F(LevelsTest, NextPassesOverADamagedRecordOnceRound) {
+    files.WriteAt(Records().PuzzlePath(1), kPuzzleRecordSize + 90, Bytes{0});
+    OpenFirst(1);
+    view.Expect("Can't open sudoku", "Sudoku number 2 of this level is damaged");
+    game->mnuSudokuNext();
+    EXPECT_EQ(Seen().status[1], "Number: 3");
+    view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", "2");
+    view.Expect("Can't open sudoku", "Sudoku number 2 of this level is damaged");
+    game->mnuSudokuOpen();
+    EXPECT_EQ(Seen().status[1], "Number: 3") << "the puzzle in play stays";
+}
+
+TEST_F(LevelsTest, AnEmptyLevelAndAWrongNumberAreRefused) {
+    files.Replace(Records().PuzzlePath(2), Bytes(165));
+    view.Expect("Can't open sudoku", "No Medium sudokus found to open");
+    game->mnuLevelNr(2);
+    game->mnuSudokuNext();
+    EXPECT_EQ(view.beeps, 1);
+    game->mnuLevelNr(1);
+    for (const char* wrong : {"0", "4", "-1", "two", "1 2", "99999999999999999999"}) {
+        view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", wrong);
+        view.Expect("Can't open sudoku", "No Easy sudokus found to open");
+        game->mnuSudokuOpen();
+    }
+    view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", std::nullopt);
+    game->mnuSudokuOpen();
+    view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", "");
+    game->mnuSudokuOpen();
+    EXPECT_EQ(Seen().status[1], "Number: none");
+}
+
+TEST_F(LevelsTest, SaveIsRefusedWhereThereIsNothingToSave) {
+    OpenFirst(1);
+    view.Expect("Sudoku not in progress",
+                "You cannot save a sudoku that hasn't been changed since it was opened !");
+    game->mnuSudokuSave();
+    ExpectBoth();
+    Complete(kOpen, 10);
+    view.Expect("Sudoku solved", "Sudoku already solved, you can only save unsolved sudokus !");
+    game->mnuSudokuSave();
+}
+
+TEST_F(LevelsTest, WhatWasSavedIsOfferedUntilThePlayerSavesOrCompletes) {
+    OpenFirst(1);
+    Assign(0, 1);
+    game->mnuSudokuSave();
+    EXPECT_TRUE(Kept(1).inProgress);
+    game->mnuSudokuNext();
+    EXPECT_TRUE(Kept(1).inProgress) << "Next changes memory only";
+    EXPECT_EQ(Kept(1).lastNumber, 1);
+    ExpectBoth();
+    Complete({0, 5}, 9);
+    EXPECT_FALSE(Kept(1).inProgress);
+    EXPECT_EQ(Kept(1).lastNumber, 2);
+}
+
+TEST_F(LevelsTest, ACompletionDiscardsTheSavedProgress) {
+    OpenFirst(1);
+    Assign(0, 1);
+    game->mnuSudokuSave();
+    EXPECT_NE(Records().ReadPlayState(1, 1), PlayState{});
+    ExpectBoth();
+    Complete(kOpen, 9);
+    EXPECT_EQ(Records().ReadPlayState(1, 1), PlayState{});
+}
+
+TEST_F(LevelsTest, APendingLevelTakesOverAtCompletionAndOffersItsPuzzle) {
+    OpenFirst(5);
+    Assign(0, 1);
+    game->mnuSudokuSave();
+    const std::string later = "Statusbar will be updated after completion of the current sudoku";
+    view.Expect("Changed level", later);
+    game->mnuLevelNr(1);
+    EXPECT_EQ(Seen().status[0], "Level: Insane");
+    EXPECT_TRUE(Seen().Command(CommandId::Level1).isChecked);
+    game->mnuSudokuNext();
+    EXPECT_EQ(Seen().status[0], "Level: Easy");
+
+    view.Expect("Changed level", later);
+    game->mnuLevelNr(5);
+    ExpectBoth();
+    view.Expect("Sudoku in progress", "Do you want to proceed with the last saved sudoku ?",
+                Answer::No);
+    Complete(kOpen, 30);
+    EXPECT_EQ(Seen().status[0], "Level: Insane");
+    EXPECT_EQ(Seen().status[1], "Number: none");
+    EXPECT_EQ(Kept(1).solvedCount, 1);
+}
+
+TEST_F(LevelsTest, ErasingThePuzzlesTimeTakesOffItsBestOnly) {
+    OpenFirst(1);
+    EXPECT_FALSE(Seen().Command(CommandId::EraseSudokuTime).isEnabled);
+    ExpectBoth();
+    Complete(kOpen, 100);
+    view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", "1");
+    game->mnuSudokuOpen();
+    ExpectBoth();
+    Complete(kOpen, 40);
+    game->Run(CommandId::EraseSudokuTime);
+    EXPECT_EQ(Seen().status[2], "Time to Beat: 00:00");
+    EXPECT_EQ(Kept(1).solvedCount, 1);
+    EXPECT_EQ(Kept(1).totalMinutes * 60 + Kept(1).totalSeconds, 100);
+    EXPECT_EQ(Kept(1).average, (PlayTime{1, 40}));
+    EXPECT_FALSE(Seen().Command(CommandId::EraseSudokuTime).isEnabled);
+}
+
+TEST_F(LevelsTest, ErasingALevelKeepsItsCountsAndErasingAllKeepsNothing) {
+    OpenFirst(1);
+    ExpectBoth();
+    Complete(kOpen, 100);
+    game->mnuLevelNr(2);
+    game->mnuSudokuNext();
+    ExpectBoth();
+    Complete(kOpen, 50);
+    game->mnuEraseLevelTime();
+    EXPECT_EQ(Kept(2).solvedCount, 1);
+    EXPECT_EQ(Kept(2).average, (PlayTime{0, 50}));
+    EXPECT_TRUE(Kept(2).best.IsNone());
+    EXPECT_EQ(Seen().status[4], "Level Average Time: 00:00");
+    EXPECT_TRUE(Records().ReadPuzzle(2, 1)->best.IsNone());
+    EXPECT_FALSE(Records().ReadPuzzle(1, 1)->best.IsNone());
+
+    game->mnuEraseAllTime();
+    EXPECT_EQ(Kept(1).solvedCount, 0);
+    EXPECT_EQ(Kept(1).lastNumber, 1);
+    EXPECT_TRUE(Records().ReadPuzzle(1, 1)->best.IsNone());
+    EXPECT_EQ(Seen().status[3], "Level Best Time: 00:00");
+}
+
+TEST_F(LevelsTest, AWriteThatFailsIsTold) {
+    OpenFirst(1);
+    Assign(0, 1);
+    std::filesystem::create_directory(Records().StatisticsPath());
+    view.Expect("File Error", "Error writing sudoku to file !");
+    game->mnuSudokuSave();
+    EXPECT_EQ(Seen().cells[0].digit, 1);
+}
+
+}  // namespace
+}  // namespace vemo::test

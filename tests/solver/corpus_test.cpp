@@ -1,0 +1,106 @@
+// What must hold for every puzzle, tried on the corpus.
+#include <algorithm>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "model/levels.h"
+#include "solver/brute_force.h"
+#include "solver/patterns.h"
+#include "solver/positions.h"
+
+namespace vemo {
+namespace {
+
+using namespace test;
+
+void ExpectSound(const Grid& grid, const Digits& solution) {
+    const auto isTrue = [&](CellDigit at) { return solution[at.cell] == at.digit; };
+    const auto isThere = [&](CellDigit at) { return grid.KnopAan(at.cell, at.digit); };
+    for (const Step& step : Steps()) {
+        if (step.search == nullptr) {
+            continue;
+        }
+        for (const Find& find : SearchAll(step, grid)) {
+            SCOPED_TRACE(LogLine(find));
+            EXPECT_TRUE(find.ChangesSomething());
+            EXPECT_TRUE(std::ranges::all_of(find.placements, isTrue));
+            EXPECT_TRUE(std::ranges::none_of(find.removals, isTrue));
+            EXPECT_TRUE(std::ranges::all_of(find.placements, isThere));
+            EXPECT_TRUE(std::ranges::all_of(find.removals, isThere));
+        }
+    }
+}
+
+TEST(Corpus, IsThereAndEveryPuzzleHasOneSolution) {
+    const std::vector<Digits> puzzles = Corpus();
+    EXPECT_GE(puzzles.size(), 200u);
+    for (const Digits& puzzle : puzzles) {
+        PlainSearch plain(puzzle);
+        ASSERT_EQ(plain.Count(), 1);
+        for (const BruteForceResult& result : {BruteForceSolve(puzzle), UniqueSud(puzzle)}) {
+            ASSERT_TRUE(result.IsUnique());
+            ASSERT_TRUE(std::ranges::equal(result.solution, plain.first));
+        }
+    }
+}
+
+TEST(Corpus, NoStepContradictsTheSolutionAndTheRatingIsTheHardestUsed) {
+    const Ladder ladder = FixedLadder();
+    std::array<int, kLevels + 1> rated{};
+    for (const Digits& puzzle : Corpus()) {
+        Solver solver(Grid::FromClues(puzzle));
+        solver.SetSolution(SolutionOf(puzzle));
+        PassResult result = PassResult::Changed;
+        int hardest = 0;
+        int steps = 0;
+        while (result == PassResult::Changed) {
+            result = solver.Pass(ladder);
+            const bool changed = result == PassResult::Changed || result == PassResult::Solved;
+            steps += changed ? 1 : 0;
+            hardest = changed ? std::max(hardest, solver.LastStep()->level) : hardest;
+        }
+        EXPECT_NE(result, PassResult::DeadEnd);
+        EXPECT_EQ(solver.UnsoundFinds(), 0);
+        EXPECT_EQ(solver.ReachedLevel(), hardest);
+        EXPECT_EQ(solver.StepCount(), steps);
+        const bool solved = solver.EmptyCount() == 0;
+        ++rated[static_cast<std::size_t>(RatingOf(solver, solved))];
+    }
+    for (int level : {1, 2, 3}) {
+        EXPECT_GT(rated[static_cast<std::size_t>(level)], 0) << "no puzzle of level " << level;
+    }
+}
+
+TEST(Corpus, EveryFindOfEveryStepIsSoundAlsoWithFurtherMarksGone) {
+    std::mt19937 random(11);
+    for (const Digits& puzzle : Corpus()) {
+        const Digits solution = SolutionOf(puzzle);
+        Solver solver(Grid::FromClues(puzzle));
+        do {
+            if (random() % 8 == 0) {
+                Grid grid = solver.State().Cells();
+                ExpectSound(grid, solution);
+                DiscardSomeFalseMarks(grid, solution, random);
+                ExpectSound(grid, solution);
+            }
+        } while (solver.Pass(FixedLadder()) == PassResult::Changed && !testing::Test::HasFailure());
+    }
+}
+
+TEST(Corpus, AnEquivalentPuzzleHasTheSameRating) {
+    const Ladder quick = QuickLadder();
+    const auto ratingOf = [&](const Digits& puzzle) {
+        Solver solver(Grid::FromClues(puzzle));
+        const bool solved = RunToTheEnd(solver, quick);
+        return std::pair(RatingOf(solver, solved), solver.EmptyCount());
+    };
+    std::mt19937 random(13);
+    for (const Digits& puzzle : Corpus()) {
+        EXPECT_EQ(ratingOf(RandomSymmetry(random).Of(puzzle)), ratingOf(puzzle));
+        EXPECT_EQ(ratingOf(Orientation(4).Of(puzzle)), ratingOf(puzzle));
+    }
+}
+
+}  // namespace
+}  // namespace vemo

@@ -1,0 +1,78 @@
+// Positions made by hand: a grid with all nine marks in every cell, from which a pattern is cut.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "solver/solver.h"
+#include "support/puzzles.h"
+
+namespace vemo::test {
+
+// The first rows of Steps().
+enum StepRow {
+    kHiddenSingle,
+    kNakedSingle,
+    kPointingPair,
+    kBoxLine,
+    kNakedPair,
+    kNakedTriple,
+    kHiddenPair,
+    kNakedQuad,
+    kHiddenTriple,
+    kNakedQuint
+};
+inline const Step& StepAt(int row) {
+    return Steps()[static_cast<std::size_t>(row)];
+}
+
+inline constexpr int kNoUnit = -1;
+constexpr int Row(char letter) {
+    return UnitNumber(UnitKind::Row, letter == 'J' ? 8 : letter - 'A');
+}
+constexpr int Column(int number) {
+    return UnitNumber(UnitKind::Column, number - 1);
+}
+constexpr int Box(int index) {
+    return UnitNumber(UnitKind::Box, index);
+}
+
+// In `unit` the digits are candidates of the cells alone; without a unit the cells hold no other
+// digits.
+struct Pattern {
+    int unit;
+    std::string_view digits;
+    std::string_view cells;
+};
+
+inline Grid GridWith(const std::vector<Pattern>& patterns) {
+    Grid grid;
+    for (const auto& [unit, digits, cells] : patterns) {
+        const CellSet within = CellsNamed(cells);
+        const Marks marks = DigitsNamed(digits);
+        if (unit == kNoUnit) {
+            for (int cell : within) {
+                Discard(grid, cell, kAllMarks & ~marks);
+            }
+            continue;
+        }
+        for (int cell : kUnits[static_cast<std::size_t>(unit)].set - within) {
+            Discard(grid, cell, marks);
+        }
+    }
+    return grid;
+}
+
+inline FirstFind SearchFirst(const Step& step, const Grid& grid) {
+    FirstFind first;
+    step.search(Position(grid), step.args, first);
+    return first;
+}
+inline std::vector<Find> SearchAll(const Step& step, const Grid& grid) {
+    AllFinds all;
+    step.search(Position(grid), step.args, all);
+    return all.finds;
+}
+
+}  // namespace vemo::test
