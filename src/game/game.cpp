@@ -34,11 +34,6 @@ void StopClockNow(Stage& stage) {
     UpdateClock(stage);
 }
 
-void FlipOption(Stage& stage, bool Options::*option) {
-    stage.options.*option = !(stage.options.*option);
-    SchrijfOpties(stage.settings, stage.options);
-}
-
 }  // namespace
 
 Game::Game(const Platform& platform, View& view) : stage_(platform, view) {

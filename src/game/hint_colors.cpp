@@ -25,14 +25,6 @@ LinkView NearestCells(const ChainLink& link) {
     return nearest;
 }
 
-// The explanation follows these chains from end to end; the links of the other kinds only join.
-bool HasDirection(HintKind kind) {
-    constexpr std::array kChains = {HintKind::XYChain,         HintKind::DoubleImplication,
-                                    HintKind::NiceLoop,        HintKind::AlternatingChain,
-                                    HintKind::ForcingFromCell, HintKind::ForcingFromUnit};
-    return std::ranges::find(kChains, kind) != kChains.end();
-}
-
 bool IsRoleOnBoard(const Screen& screen, Role role) {
     return std::ranges::any_of(screen.marks, [&](const auto& marks) {
         return std::ranges::find(marks, role, &MarkView::role) != marks.end();
@@ -82,12 +74,12 @@ bool HintColors::IsRedLabel(UnitKind kind, int index) const {
     return redLabels_[Index(UnitNumber(kind, index))];
 }
 
-void HintColors::AddLink(HintKind kind, const ChainLink& link) {
+void HintColors::AddLink(const ChainLink& link) {
     LinkView view = NearestCells(link);
     view.fromDigit = link.fromDigit;
     view.toDigit = link.toDigit;
     view.isStrong = link.strong;
-    view.isDirected = HasDirection(kind);
+    view.isDirected = link.directed;
     links_.push_back(view);
 }
 
@@ -119,7 +111,7 @@ void HintColors::Show(const Find& find) {
         ZetHintNummer(cell, digit, Role::Placed);
     }
     for (const ChainLink& link : find.links) {
-        AddLink(find.kind, link);
+        AddLink(link);
     }
 }
 

@@ -38,7 +38,7 @@ class HintColors {
 
   private:
     static constexpr std::size_t Index(int number) { return static_cast<std::size_t>(number); }
-    void AddLink(HintKind kind, const ChainLink& link);
+    void AddLink(const ChainLink& link);
 
     CellSet hintCells_;
     CellSet unitTint_;

@@ -254,10 +254,6 @@ int History::StepCount() const {
                                           [](const UndoEntry& entry) { return !IsJoined(entry); }));
 }
 
-int History::LastCell() const {
-    return CanUndo() ? entries_[StepStart(top_ - 1)].cell : -1;
-}
-
 void History::Clear() {
     entries_.clear();
     top_ = 0;

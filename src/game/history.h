@@ -41,8 +41,6 @@ class History {
 
     // Steps taken so far, joined entries counted once.
     int StepCount() const;
-    // The (first) cell of the step on top of the history, -1 where there is none.
-    int LastCell() const;
 
     void Clear();
     void CutRedo();

@@ -4,11 +4,6 @@
 namespace vemo {
 namespace {
 
-void Toggle(Stage& stage, bool Options::*option) {
-    stage.options.*option = !(stage.options.*option);
-    SchrijfOpties(stage.settings, stage.options);
-}
-
 // The mark under the pointer, and those that a hint speaks of.
 Marks SimpleMarks(const Session& session, int cell) {
     Marks marks = 0;
@@ -41,15 +36,15 @@ bool CanDiscardMarks(const Stage& stage) {
 }
 
 void TogglePencilmarksMode(Stage& stage) {
-    Toggle(stage, &Options::pencilmarks);
+    FlipOption(stage, &Options::pencilmarks);
 }
 
 void TogglePencilmarksOff(Stage& stage) {
-    Toggle(stage, &Options::pencilmarksOff);
+    FlipOption(stage, &Options::pencilmarksOff);
 }
 
 void TogglePencilmarksDimmed(Stage& stage) {
-    Toggle(stage, &Options::dimmed);
+    FlipOption(stage, &Options::dimmed);
 }
 
 }  // namespace vemo

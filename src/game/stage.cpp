@@ -26,6 +26,11 @@ void Penalty(Stage& stage, int seconds) {
     }
 }
 
+void FlipOption(Stage& stage, bool Options::*option) {
+    stage.options.*option = !(stage.options.*option);
+    SchrijfOpties(stage.settings, stage.options);
+}
+
 bool IsSimpleMode(const Stage& stage) {
     return stage.options.pencilmarksOff && stage.session.level >= 1 &&
            stage.session.level <= kLastSimpleLevel;

@@ -65,6 +65,9 @@ void Speel(Stage& stage, Sound sound);
 // Charges the clock; nothing while the timer is switched off.
 void Penalty(Stage& stage, int seconds);
 
+// Switches an option over and keeps it in the settings store at once.
+void FlipOption(Stage& stage, bool Options::*option);
+
 // On levels 1..3 with "Pencilmarks off in first 3 levels": the simple display and simple hints.
 bool IsSimpleMode(const Stage& stage);
 

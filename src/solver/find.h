@@ -73,6 +73,7 @@ struct ChainLink {
     std::uint8_t fromDigit = 0;
     std::uint8_t toDigit = 0;
     bool strong = false;
+    bool directed = false;  // the explanation follows the chain this way
 
     bool operator==(const ChainLink&) const = default;
 };

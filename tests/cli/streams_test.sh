@@ -48,13 +48,13 @@ fi
 Expect 'a closed pipe' 3 'cannot be written' WriteToClosedPipe
 
 # An answer comes before the next line is asked for.
-coproc session { "$program" rate -; }
-pid=$session_PID
-exec {input}>&"${session[1]}" {output}<&"${session[0]}"
-grep -m 1 -v '^#' "$list" >&"$input"
-read -r -t 20 answer <&"$output" || Fail 'the answer waits for more input'
+mkfifo "$scratch/questions" "$scratch/answers"
+"$program" rate - <"$scratch/questions" >"$scratch/answers" &
+exec 3>"$scratch/questions" 4<"$scratch/answers"
+grep -m 1 -v '^#' "$list" >&3
+read -r -t 20 answer <&4 || Fail 'the answer waits for more input'
 [[ ${answer:-} == *$'\t'Easy$'\t'* ]] || Fail "the answer is: ${answer:-}"
-exec {input}>&- {session[1]}>&-
-wait "$pid" || Fail 'the end of the input is a fault'
+exec 3>&-
+wait $! || Fail 'the end of the input is a fault'
 
 ((failures == 0))

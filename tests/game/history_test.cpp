@@ -93,7 +93,6 @@ TEST(History, JoinedEntriesAreOneStep) {
     history.Discard(grid, kA2, 3, Joined::Yes);
     const Grid end = grid;
     EXPECT_EQ(history.StepCount(), 2);
-    EXPECT_EQ(history.LastCell(), kB1);
     ASSERT_TRUE(history.Undo(grid));
     EXPECT_EQ(history.StepCount(), 1);
     EXPECT_EQ(grid.Digit(kB1), 0);
@@ -109,7 +108,6 @@ TEST(History, ANewStepCutsWhatCouldBeRedone) {
     Grid grid;
     History history;
     EXPECT_FALSE(history.Undo(grid));
-    EXPECT_EQ(history.LastCell(), -1);
     history.Place(grid, kA1, 1);
     history.Place(grid, kA2, 2);
     history.Undo(grid);
@@ -131,14 +129,11 @@ TEST(History, TheLastHundredEntriesAreSavedAsWholeSteps) {
     }
     EXPECT_EQ(history.StepCount(), 99);
     // The oldest of the 101 entries does not fit, and so its step goes.
-    History loaded = Loaded(Saved(history, grid));
-    EXPECT_EQ(loaded.StepCount(), 98);
-
+    EXPECT_EQ(Saved(history, grid).undoCount, 98);
     // What was undone is not saved.
     history.Undo(grid);
     EXPECT_EQ(Saved(history, grid).undoCount, 100);
     EXPECT_EQ(Loaded(Saved(history, grid)).StepCount(), 98);
-    EXPECT_FALSE(Loaded(Saved(history, grid)).CanRedo());
 }
 
 TEST(History, AnOldFileWithoutKindsIsRead) {
@@ -190,8 +185,13 @@ TEST(History, WhatCannotHaveHappenedIsDroppedWithAllBeforeIt) {
                                  Damage{0, 2048, 2}, Damage{3, 256, 0}, Damage{0, 512, 2}}) {
         PlayState state = good;
         state.history[damage.entry].kindAndDigit = static_cast<std::int16_t>(damage.kindAndDigit);
-        EXPECT_EQ(Loaded(state).StepCount(), damage.stepsLeft)
-            << damage.entry << " " << damage.kindAndDigit;
+        History loaded = Loaded(state);
+        Grid undone = grid;
+        int steps = 0;
+        while (loaded.Undo(undone)) {
+            ++steps;
+        }
+        EXPECT_EQ(steps, damage.stepsLeft) << damage.entry << " " << damage.kindAndDigit;
     }
 }
 

@@ -70,6 +70,7 @@ TEST(PlayClock, StoppedTimeIsNotCountedButPenaltiesAre) {
     clock.Stop();
     clock.Tick(kBeforeMidnight + 5);
     clock.Penalty(20, kBeforeMidnight + 5);
+    clock.Tick(kBeforeMidnight + 6);
     EXPECT_EQ(clock.Elapsed(), 120);
     clock.Resume(30);  // on the next day, after less of it than was played
     EXPECT_EQ(clock.Elapsed(), 120);

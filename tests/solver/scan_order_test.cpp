@@ -98,6 +98,7 @@ TEST(ScanOrder, WhatIsNoPatternIsNotFound) {
          {{kNoUnit, "12", "A1 A5"}, {Row('A'), "12", "A1 A5"}}},
         {"a cell without a candidate", kNakedPair, {{kNoUnit, "12", "A1"}, {kNoUnit, "", "A5"}}},
         {"a digit without a place", kHiddenPair, {{Row('A'), "1", "A1 A5"}, {Row('A'), "2", ""}}},
+        {"two digits with one place between them", kHiddenPair, {{Row('A'), "12", "A1"}}},
         {"a hidden pair alone in its cells",
          kHiddenPair,
          {{kNoUnit, "12", "A1 A5"}, {Row('A'), "12", "A1 A5"}}},
