@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "cli/options.h"
 #include "cli/streams.h"
@@ -46,18 +47,18 @@ inline constexpr Option kQuietOption = {"--quiet", "", "show no progress"};
 
 // How the input is described in their help.
 inline constexpr std::string_view kListNotes =
-    "FILE holds one of them a line, \"-\" is standard input. Blank lines and lines that begin "
-    "with\n"
-    "# are passed over; a line that cannot be read gets a message with its number.\n";
+    "FILE holds one of them a line; \"-\" is standard input. Blank lines and lines that\n"
+    "begin with # are passed over. A line that cannot be read gets a message with its\n"
+    "number, and the run goes on.\n";
 inline constexpr std::string_view kPuzzleNotes =
-    "A puzzle is 81 characters row by row, a digit or one of . 0 * _ - x X for an empty cell. Of "
-    "a\n"
-    "position (see vemosud hint --help) the givens are the puzzle.\n";
+    "A puzzle is 81 characters row by row: a digit, or one of . 0 * _ - x X for an\n"
+    "empty cell. Of a position (see vemosud hint --help) the givens are the puzzle.\n";
 inline constexpr std::string_view kPositionNotes =
-    "A position is the grid, 81 characters row by row, a digit or one of . 0 * _ - x X for an\n"
-    "empty cell; optionally TAB and 81 comma-separated groups of the digits still possible, empty\n"
-    "for a filled cell; optionally TAB and the 81 givens. Without the groups they follow from the\n"
-    "grid; without the givens every filled cell is one.\n";
+    "A position is the grid, 81 characters row by row: a digit, or one of\n"
+    ". 0 * _ - x X for an empty cell; optionally TAB and 81 comma-separated groups of\n"
+    "the digits still possible, empty for a filled cell; optionally TAB and the 81\n"
+    "givens. Without the groups they follow from the grid; without the givens every\n"
+    "filled cell is one.\n";
 
 inline CommandResult UsageError(std::string text) {
     return {ExitCode::Usage, std::move(text)};

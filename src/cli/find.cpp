@@ -210,12 +210,11 @@ CommandResult RunFind(const Arguments& arguments, Streams& streams) {
 std::string Notes() {
     std::string text =
         "A block a find, with a blank line behind it: one line each \"place A1 5\" or\n"
-        "\"remove B2 7\"; \"none\" alone where there is nothing of the kind. With --all every find "
-        "on\n"
-        "the position, each block beginning with its log line; two with the same effects are one.\n"
-        "With --jsonl the fields \"line\" and \"finds\", of each find \"title\", \"log\", "
-        "\"place\",\n"
-        "\"remove\".\n\n" +
+        "\"remove B2 7\"; \"none\" alone where there is nothing of the kind. With --all every\n"
+        "find on the position, each block beginning with its log line; two finds with the\n"
+        "same effects are one. With --jsonl the fields \"line\" and \"finds\", of each find\n"
+        "\"title\", \"log\", \"place\", \"remove\".\n"
+        "\n" +
         std::string(kPositionNotes).append(kListNotes) + "\nTitles:\n";
     for (std::string_view title : AllTitles()) {
         text.append("  ").append(title) += '\n';

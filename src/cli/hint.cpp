@@ -12,12 +12,12 @@ namespace {
 constexpr Option kOptions[] = {kJsonlOption, kQuietOption};
 
 std::string Notes() {
-    return "A block a position, with a blank line behind it: the title of the hint, its text, and\n"
-           "one line each \"place A1 5\" or \"remove B2 7\"; \"none\" alone where there is no "
-           "hint. With\n"
-           "--jsonl the fields \"line\", \"title\", \"text\", \"place\", \"remove\"; the texts are "
-           "empty\n"
-           "where there is no hint.\n\n" +
+    return "A block a position, with a blank line behind it: the title of the hint, its text,\n"
+           "and one line each \"place A1 5\" or \"remove B2 7\"; \"none\" alone where there is no\n"
+           "hint. With --jsonl the fields \"line\", \"title\", \"text\", \"place\", \"remove\"; "
+           "title and\n"
+           "text are empty where there is no hint.\n"
+           "\n" +
            std::string(kPositionNotes).append(kListNotes);
 }
 

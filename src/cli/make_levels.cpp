@@ -1,7 +1,7 @@
 // vemosud make-levels: the level files of the game, and a list of puzzles for tests.
-#include <algorithm>
 #include <filesystem>
 #include <span>
+#include <system_error>
 
 #include "cli/commands.h"
 #include "cli/progress.h"
@@ -24,15 +24,14 @@ constexpr Option kOptions[] = {kOutputOption, kSeedOption,        kCountOption,
 constexpr std::uint64_t kMostPuzzles = 100'000;
 
 std::string Notes() {
-    return "Writes Sudoku_Easy.sds to Sudoku_Outlaw.sds, or a list of puzzles, one a line, or "
-           "both.\n"
-           "Every puzzle has exactly one solution. The same numbers make the same files. A folder\n"
-           "with a player's progress in it is left alone.\n";
+    return "Writes Sudoku_Easy.sds to Sudoku_Outlaw.sds, or a list of puzzles, one a line,\n"
+           "or both. Every puzzle has exactly one solution. The same numbers make the same\n"
+           "files. A folder with a player's progress in it is left alone. Tells of each\n"
+           "file that it wrote the name TAB the number of puzzles.\n";
 }
 
 struct Order {
-    std::uint64_t seed = 1;
-    int count = 60;
+    LevelSettings levels;
     int corpusCount = 400;
 };
 
@@ -64,9 +63,10 @@ std::string ReadOrder(const Arguments& arguments, Order& order) {
     if (has(kCorpusCountOption) && !has(kCorpusOption)) {
         return "--corpus-count goes with --corpus";
     }
-    std::string error = ReadNumberOf(arguments, kSeedOption, 0, ~std::uint64_t{0}, order.seed);
+    std::string error =
+        ReadNumberOf(arguments, kSeedOption, 0, ~std::uint64_t{0}, order.levels.seed);
     if (error.empty()) {
-        error = ReadNumberOf(arguments, kCountOption, 1, kMostPuzzles, order.count);
+        error = ReadNumberOf(arguments, kCountOption, 1, kMostPuzzles, order.levels.count);
     }
     if (error.empty()) {
         error = ReadNumberOf(arguments, kCorpusCountOption, 1, kMostPuzzles, order.corpusCount);
@@ -88,7 +88,7 @@ ExitCode Failure(Streams& streams, const FileError& error) {
     return ExitCode::InputOutput;
 }
 
-// The report of a file that stands: its name TAB its number of puzzles.
+// The report of a file that stands: its name TAB the number of puzzles.
 ExitCode Report(Streams& streams, const std::filesystem::path& path, std::size_t count) {
     const std::string line = path.string() + '\t' + std::to_string(count) + '\n';
     return WriteResult(streams, line) ? ExitCode::Fine : ExitCode::InputOutput;
@@ -125,12 +125,11 @@ ExitCode WriteLevels(Streams& streams, Progress& progress, const Order& order,
     if (const auto error = files.MakeFolder(folder)) {
         return Failure(streams, *error);
     }
-    const LevelPuzzles levels =
-        MakeLevels({order.seed, order.count}, ProgressOn(progress, "Levels"));
+    const LevelPuzzles levels = MakeLevels(order.levels, ProgressOn(progress, "Levels"));
     progress.Clear();
     for (int level = 1; level <= kLevels; ++level) {
         const auto& puzzles = levels[static_cast<std::size_t>(level) - 1];
-        if (puzzles.size() < static_cast<std::size_t>(order.count)) {
+        if (puzzles.size() < static_cast<std::size_t>(order.levels.count)) {
             Tell(streams, "level " + std::string(LevelName(level)) +
                               " stays short: " + std::to_string(puzzles.size()) + " puzzles");
         }
@@ -142,16 +141,26 @@ ExitCode WriteLevels(Streams& streams, Progress& progress, const Order& order,
     return ExitCode::Fine;
 }
 
+// Devices and links are not: the new file would take their place.
+bool MayBeReplaced(const std::filesystem::path& path) {
+    std::error_code error;
+    const std::filesystem::file_status status = std::filesystem::symlink_status(path, error);
+    return !std::filesystem::exists(status) || std::filesystem::is_regular_file(status);
+}
+
 ExitCode WriteCorpus(Streams& streams, Progress& progress, const Order& order,
                      const std::filesystem::path& path) {
+    if (!MayBeReplaced(path)) {
+        return Failure(streams, {path, "is no regular file"});
+    }
     const std::string count = std::to_string(order.corpusCount);
     std::string text =
         "# " + count +
         " puzzles with one solution each: Easy, Medium, Hard and harder in turn. By\n"
         "# vemosud make-levels --corpus FILE --corpus-count " +
-        count + " --seed " + std::to_string(order.seed) + "\n";
+        count + " --seed " + std::to_string(order.levels.seed) + "\n";
     for (const Digits& clues :
-         MakeCorpus(order.seed, order.corpusCount, ProgressOn(progress, "List"))) {
+         MakeCorpus(order.levels.seed, order.corpusCount, ProgressOn(progress, "List"))) {
         text += WriteGrid81(clues) + '\n';
     }
     progress.Clear();

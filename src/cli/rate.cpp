@@ -17,11 +17,12 @@ constexpr Option kLogOption = {"--log", "", "write the solve log's lines after e
 constexpr Option kOptions[] = {kLogOption, kJsonlOption, kQuietOption};
 
 std::string Notes() {
-    return "One line a puzzle: puzzle TAB level number TAB level name TAB hardest technique used\n"
-           "TAB number of steps. A puzzle without exactly one solution has the level 0, named "
-           "none\n"
-           "or multiple, no technique, and 0 steps. With --jsonl the fields \"line\", \"puzzle\",\n"
-           "\"level\", \"name\", \"hardest\", \"steps\", and \"log\" with --log.\n\n" +
+    return "One line a puzzle: puzzle TAB level number TAB level name TAB hardest technique\n"
+           "used TAB number of steps. A puzzle without exactly one solution has the level 0,\n"
+           "named none or multiple, no technique, and 0 steps. With --jsonl the fields\n"
+           "\"line\", \"puzzle\", \"level\", \"name\", \"hardest\", \"steps\", and with --log "
+           "\"log\".\n"
+           "\n" +
            std::string(kPuzzleNotes).append(kListNotes);
 }
 

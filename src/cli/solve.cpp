@@ -12,10 +12,10 @@ namespace {
 constexpr Option kOptions[] = {kJsonlOption, kQuietOption};
 
 std::string Notes() {
-    return "One line a puzzle: puzzle TAB unique, none or multiple TAB solution, which is empty\n"
-           "unless there is exactly one. With --jsonl the fields \"line\", \"puzzle\", "
-           "\"result\",\n"
-           "\"solution\".\n\n" +
+    return "One line a puzzle: puzzle TAB unique, none or multiple TAB solution, which is\n"
+           "empty unless there is exactly one. With --jsonl the fields \"line\", \"puzzle\",\n"
+           "\"result\", \"solution\".\n"
+           "\n" +
            std::string(kPuzzleNotes).append(kListNotes);
 }
 

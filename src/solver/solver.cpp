@@ -54,8 +54,7 @@ Ladder FixedLadder() {
 
 Ladder QuickLadder() {
     Ladder ladder = FixedLadder();
-    std::erase_if(ladder,
-                  [](const LadderStep& at) { return at.step->slot >= kFirstMovableSlot; });
+    std::erase_if(ladder, [](const LadderStep& at) { return at.step->slot >= kFirstMovableSlot; });
     return ladder;
 }
 

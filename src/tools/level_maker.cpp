@@ -14,8 +14,8 @@ namespace vemo {
 namespace {
 
 constexpr int kTriesPerPuzzle = 500;
-// Three puzzles of four are symmetrical.
-constexpr int kSymmetricalOf = 4;
+// The others look the same after half a turn.
+constexpr int kOneUnsymmetricalIn = 4;
 
 // Keeps the corpus of a seed apart from its levels.
 constexpr std::uint64_t kCorpusStream = 0x636f72707573;
@@ -96,14 +96,14 @@ PuzzleRecord MakePuzzle(ClueRange range, Random& random) {
     PuzzleRecord puzzle;
     puzzle.solution = RandomSolution(random);
     const Symmetry symmetry =
-        random.Below(kSymmetricalOf) == 0 ? Symmetry::None : Symmetry::HalfTurn;
+        random.Below(kOneUnsymmetricalIn) == 0 ? Symmetry::None : Symmetry::HalfTurn;
     const bool digsAllTheWay = range.most == kCells;
     const int fewest = digsAllTheWay ? range.fewest : random.Between(range.fewest, range.most);
     puzzle.clues = DigClues(puzzle.solution, symmetry, fewest, random);
     return puzzle;
 }
 
-// The highest level that the ladder can tell from the one below it, all levels below included.
+// The highest level that has a step which searches, and below which every level has one.
 int HighestRatedLevel(const Ladder& ladder) {
     std::array<bool, kLevels + 1> hasSearch{};
     for (const LadderStep& at : ladder) {

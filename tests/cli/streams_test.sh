@@ -47,9 +47,14 @@ if [[ -c /dev/full ]]; then
 fi
 Expect 'a closed pipe' 3 'cannot be written' WriteToClosedPipe
 
+ln -s "$scratch/out" "$scratch/link"
+Expect 'a link as the list to be written' 3 'no regular file' \
+    "$program" make-levels --corpus "$scratch/link" --corpus-count 1
+[[ -L $scratch/link ]] || Fail 'a link: it was replaced'
+
 # An answer comes before the next line is asked for.
 mkfifo "$scratch/questions" "$scratch/answers"
-"$program" rate - <"$scratch/questions" >"$scratch/answers" &
+"$program" rate "$scratch/questions" >"$scratch/answers" &
 exec 3>"$scratch/questions" 4<"$scratch/answers"
 grep -m 1 -v '^#' "$list" >&3
 read -r -t 20 answer <&4 || Fail 'the answer waits for more input'

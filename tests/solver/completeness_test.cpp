@@ -18,14 +18,13 @@ using namespace test;
 using Effects = std::vector<std::pair<int, int>>;
 using EffectSet = std::set<Effects>;
 
-using Cells = std::vector<int>;
-
-Cells CellsOf(int unit) {
-    Cells cells;
+// Unit 0..26: rows, columns, boxes.
+CellSet CellsOf(int unit) {
+    CellSet cells;
     for (int cell = 0; cell < kCells; ++cell) {
         const int box = cell / 27 * 3 + cell % 9 / 3;
         if (unit == cell / 9 || unit == 9 + cell % 9 || unit == 18 + box) {
-            cells.push_back(cell);
+            cells.Add(cell);
         }
     }
     return cells;
@@ -34,23 +33,22 @@ bool IsBox(int unit) {
     return unit >= 18;
 }
 
-Cells Holders(const Grid& grid, const Cells& cells, int digit) {
-    Cells holders;
-    std::ranges::copy_if(cells, std::back_inserter(holders),
-                         [&](int cell) { return grid.KnopAan(cell, digit); });
+CellSet Holders(const Grid& grid, CellSet cells, int digit) {
+    CellSet holders;
+    for (int cell : cells) {
+        if (grid.KnopAan(cell, digit)) {
+            holders.Add(cell);
+        }
+    }
     return holders;
 }
-bool Has(const Cells& cells, int cell) {
-    return std::ranges::count(cells, cell) != 0;
-}
 
-// The candidates of `digits` in `cells` that are not in `kept`.
-Effects Removals(const Grid& grid, const Cells& cells, const Cells& kept,
-                 const std::vector<int>& digits) {
+// The candidates of `digits` in the cells.
+Effects Removals(const Grid& grid, CellSet cells, unsigned digits) {
     Effects effects;
     for (int cell : cells) {
-        for (int digit : digits) {
-            if (!Has(kept, cell) && grid.KnopAan(cell, digit)) {
+        for (int digit = 1; digit <= 9; ++digit) {
+            if ((digits >> digit & 1) != 0 && grid.KnopAan(cell, digit)) {
                 effects.emplace_back(cell, digit);
             }
         }
@@ -62,9 +60,9 @@ EffectSet HiddenSingles(const Grid& grid) {
     EffectSet all;
     for (int unit = 0; unit < 27; ++unit) {
         for (int digit = 1; digit <= 9; ++digit) {
-            const Cells holders = Holders(grid, CellsOf(unit), digit);
-            if (holders.size() == 1) {
-                all.insert({{holders[0], digit}});
+            const CellSet holders = Holders(grid, CellsOf(unit), digit);
+            if (holders.Count() == 1) {
+                all.insert({{holders.First(), digit}});
             }
         }
     }
@@ -74,14 +72,9 @@ EffectSet HiddenSingles(const Grid& grid) {
 EffectSet NakedSingles(const Grid& grid) {
     EffectSet all;
     for (int cell = 0; cell < kCells; ++cell) {
-        Effects digits;
-        for (int digit = 1; digit <= 9; ++digit) {
-            if (grid.KnopAan(cell, digit)) {
-                digits.emplace_back(cell, digit);
-            }
-        }
-        if (digits.size() == 1) {
-            all.insert(digits);
+        const Effects candidates = Removals(grid, CellSet::Of(cell), kAllMarks);
+        if (candidates.size() == 1) {
+            all.insert(candidates);
         }
     }
     return all;
@@ -90,81 +83,57 @@ EffectSet NakedSingles(const Grid& grid) {
 // All places of a digit in one unit lie in a second one, of which just one of the two is a box.
 EffectSet Intersections(const Grid& grid, bool fromBox) {
     EffectSet all;
-    for (int from = 0; from < 27; ++from) {
-        const Cells source = CellsOf(from);
-        for (int to = 0; to < 27; ++to) {
-            const Cells target = CellsOf(to);
-            for (int digit = 1; digit <= 9 && IsBox(from) == fromBox && IsBox(to) != fromBox;
-                 ++digit) {
-                const Cells holders = Holders(grid, source, digit);
-                const bool within =
-                    std::ranges::all_of(holders, [&](int cell) { return Has(target, cell); });
-                if (!holders.empty() && within) {
-                    all.insert(Removals(grid, target, source, {digit}));
-                }
+    for (int pair = 0; pair < 27 * 27; ++pair) {
+        const int from = pair / 27;
+        const int to = pair % 27;
+        if (IsBox(from) != fromBox || IsBox(to) == fromBox) {
+            continue;
+        }
+        for (int digit = 1; digit <= 9; ++digit) {
+            const CellSet holders = Holders(grid, CellsOf(from), digit);
+            if (holders.Any() && CellsOf(to).Contains(holders)) {
+                all.insert(Removals(grid, CellsOf(to) - CellsOf(from), 1u << digit));
             }
         }
     }
     return all;
 }
 
-std::vector<int> DigitsOf(unsigned set) {
-    std::vector<int> digits;
-    for (int digit = 1; digit <= 9; ++digit) {
-        if ((set >> digit & 1) != 0) {
-            digits.push_back(digit);
-        }
-    }
-    return digits;
-}
-
-// Just `size` cells of a unit hold nothing but the digits, and something.
-Effects NakedSubset(const Grid& grid, const Cells& unit, const std::vector<int>& digits) {
-    Cells subset;
+// As many cells of a unit as there are digits hold nothing but these, and something.
+Effects NakedSubset(const Grid& grid, CellSet unit, unsigned digits) {
+    CellSet subset;
     for (int cell : unit) {
-        int within = 0;
-        int other = 0;
-        for (int digit = 1; digit <= 9; ++digit) {
-            const bool isOne = std::ranges::count(digits, digit) != 0;
-            (isOne ? within : other) += grid.KnopAan(cell, digit) ? 1 : 0;
-        }
-        if (within > 0 && other == 0) {
-            subset.push_back(cell);
+        const unsigned marks = grid.MarksAt(cell);
+        if (marks != 0 && (marks & ~digits) == 0) {
+            subset.Add(cell);
         }
     }
-    return subset.size() == digits.size() ? Removals(grid, unit, subset, digits) : Effects();
+    return subset.Count() == BitCount(digits) ? Removals(grid, unit - subset, digits) : Effects();
 }
 
-// The digits, each of which has a place, have just `size` cells of a unit between them.
-Effects HiddenSubset(const Grid& grid, const Cells& unit, const std::vector<int>& digits) {
-    std::set<int> places;
-    for (int digit : digits) {
-        const Cells holders = Holders(grid, unit, digit);
-        if (holders.empty()) {
-            return {};
-        }
-        places.insert(holders.begin(), holders.end());
-    }
-    std::vector<int> others;
+// The digits, each of which has a place, have as many cells of a unit between them as they are.
+Effects HiddenSubset(const Grid& grid, CellSet unit, unsigned digits) {
+    CellSet places;
     for (int digit = 1; digit <= 9; ++digit) {
-        if (std::ranges::count(digits, digit) == 0) {
-            others.push_back(digit);
+        if ((digits >> digit & 1) != 0) {
+            const CellSet holders = Holders(grid, unit, digit);
+            if (!holders.Any()) {
+                return {};
+            }
+            places |= holders;
         }
     }
-    return places.size() == digits.size()
-               ? Removals(grid, Cells(places.begin(), places.end()), {}, others)
-               : Effects();
+    return places.Count() == BitCount(digits) ? Removals(grid, places, ~digits) : Effects();
 }
 
-using SubsetRule = Effects (*)(const Grid&, const Cells&, const std::vector<int>&);
+using SubsetRule = Effects (*)(const Grid&, CellSet, unsigned);
 
-EffectSet Subsets(const Grid& grid, SubsetRule rule, std::size_t size) {
+EffectSet Subsets(const Grid& grid, SubsetRule rule, int size) {
     EffectSet all;
     for (int unit = 0; unit < 27; ++unit) {
-        const Cells cells = CellsOf(unit);
-        for (unsigned set = 2; set <= 1022; set += 2) {
-            const std::vector<int> digits = DigitsOf(set);
-            if (digits.size() == size) {
+        const CellSet cells = CellsOf(unit);
+        for (unsigned digits = 2; digits <= 1022; digits += 2) {
+            if (BitCount(digits) == size) {
                 all.insert(rule(grid, cells, digits));
             }
         }
@@ -205,7 +174,7 @@ EffectSet FoundBy(const Step& step, const Grid& grid) {
         for (const auto& [cell, digit] : find.removals) {
             effects.emplace_back(cell, digit);
         }
-        found.insert(effects);
+        EXPECT_TRUE(found.insert(effects).second) << "twice the same effects";
     }
     return found;
 }

@@ -129,6 +129,8 @@ TEST(Texts, AreThoseOfTheirPattern) {
         EXPECT_EQ(HintTitle(first.found), c.title);
         EXPECT_EQ(LogLine(first.found), c.log);
         EXPECT_EQ(HintText(first.found), c.hint);
+        const int level = c.step <= kNakedSingle ? 1 : c.step <= kBoxLine ? 2 : 3;
+        EXPECT_EQ(StepAt(c.step).level, level);
     }
 }
 

@@ -24,6 +24,7 @@ TEST_P(ShippedLevel, HoldsUniqueDifferentPuzzlesRatedAsFiled) {
     const int count = records.PuzzleCount(level);
     EXPECT_GE(count, kFewestPuzzles);
     std::set<Digits> different;
+    int steps = 0;
     for (int number = 1; number <= count; ++number) {
         SCOPED_TRACE(number);
         const auto puzzle = records.ReadPuzzle(level, number);
@@ -36,6 +37,8 @@ TEST_P(ShippedLevel, HoldsUniqueDifferentPuzzlesRatedAsFiled) {
         if (level <= kLastLevelOfSlot7) {
             Solver solver(Grid::FromClues(puzzle->clues));
             EXPECT_EQ(RatingOf(solver, RunToTheEnd(solver, FixedLadder())), level);
+            EXPECT_GE(solver.StepCount(), steps) << "harder than the puzzle before";
+            steps = solver.StepCount();
         } else {
             EXPECT_FALSE(PreSolve(Grid::FromClues(puzzle->clues)).solved);
         }
