@@ -41,7 +41,8 @@ class Files {
                                              std::span<const std::uint8_t> bytes) = 0;
 
     // Puts a whole new content in place of the file's: written beside it, then renamed over it.
-    // On an error the old file stands untouched and nothing is left beside it.
+    // On an error the old file stands untouched and nothing is left beside it. A link to a file
+    // stays a link; what is no regular file is not replaced.
     virtual std::optional<FileError> Replace(const std::filesystem::path& path,
                                              std::span<const std::uint8_t> bytes) = 0;
 

@@ -126,9 +126,13 @@ std::optional<FileError> PlainFiles::ReplacePart(const fs::path& path, std::uint
 
 std::optional<FileError> PlainFiles::Replace(const fs::path& path,
                                              std::span<const std::uint8_t> bytes) {
-    fs::path beside = path;
-    beside += ".new";
     std::error_code error;
+    const fs::path target = fs::is_symlink(path, error) ? fs::canonical(path, error) : path;
+    if (fs::exists(target, error) && !fs::is_regular_file(target, error)) {
+        return FileError{path, "is no regular file"};
+    }
+    fs::path beside = target;
+    beside += ".new";
     std::fstream file;
     if (!OpenUnbuffered(file, beside, std::ios::out | std::ios::trunc)) {
         return ErrorOf(path, "cannot be written");
@@ -137,7 +141,7 @@ std::optional<FileError> PlainFiles::Replace(const fs::path& path,
         fs::remove(beside, error);
         return failed;
     }
-    fs::rename(beside, path, error);
+    fs::rename(beside, target, error);
     if (error) {
         const FileError failed{path, "cannot be replaced: " + error.message()};
         fs::remove(beside, error);

@@ -14,7 +14,8 @@ constexpr int kStopAt = 2;
 
 // The search keeps a list of the empty cells, filled from its end towards its start: positions
 // 0..p wait, those behind p hold a digit. At each step the waiting cell with the fewest candidates
-// moves to position p; its digits are tried in ascending order.
+// moves to position p; its digits are tried in ascending order. A placement is a dead end where it
+// leaves a waiting cell without a candidate, or a unit without a place for one of its digits.
 class Search final {
   public:
     Search(const Grid& grid, const SearchYield& yield);
@@ -22,7 +23,7 @@ class Search final {
     BruteForceResult Run();
 
   private:
-    // What one placement took away: the cells among the waiting ones that lost its digit.
+    // What one placement took away: the waiting cells that lost its digit.
     struct Undoable {
         std::uint8_t cell;
         std::uint8_t digit;
@@ -34,37 +35,51 @@ class Search final {
     int CountAt(int position) const { return BitCount(candidates_[At(CellAt(position))]); }
 
     void ChooseCell();
+    void PutBack(int cell);
     bool PlaceNextDigit();
     void RemoveCandidates(int cell, int digit);
     void Undo();
-    bool HasDeadCell() const;
+    bool HasPlace(const Unit& unit, int digit) const;
+    bool HasPlaceAround(int cell, int digit) const;
+    bool IsDeadEnd() const;
+    bool HasUnitWithoutPlace() const;
     bool MayGoOn();
 
     Digits grid_;
     std::array<Marks, kCells> candidates_{};
     std::array<Marks, kCells> untried_{};  // of a cell that holds a digit: those still to be tried
+    std::array<CellSet, kDigits + 1> places_{};  // by digit: the waiting cells that can take it
+    std::array<CellSet, kDigits + 1> held_{};    // by digit: the cells that hold it
     std::array<std::uint8_t, kCells> list_{};
     int count_ = 0;
     int position_ = 0;
-    CellSet waiting_;  // the cells at positions 0..p-1 once p is chosen
     std::array<Undoable, kCells> stack_;
     int depth_ = 0;
-    int placements_ = 0;
+    unsigned placements_ = 0;
     const SearchYield& yield_;
 };
 
 Search::Search(const Grid& grid, const SearchYield& yield)
     : grid_(grid.AllDigits()), yield_(yield) {
-    for (int cell : grid.EmptyCells()) {
+    for (int cell = 0; cell < kCells; ++cell) {
+        if (const int digit = grid.Digit(cell); digit != 0) {
+            held_[At(digit)].Add(cell);
+            continue;
+        }
         list_[At(count_++)] = static_cast<std::uint8_t>(cell);
         candidates_[At(cell)] = grid.MarksAt(cell);
     }
-    waiting_ = grid.EmptyCells();
+    for (int digit = 1; digit <= kDigits; ++digit) {
+        places_[At(digit)] = grid.Candidates(digit);
+    }
     position_ = count_ - 1;
 }
 
 BruteForceResult Search::Run() {
     BruteForceResult result;
+    if (HasUnitWithoutPlace()) {
+        return result;
+    }
     bool isNew = true;  // no digit was tried yet in the cell at this position
     while (position_ < count_) {
         if (position_ < 0) {
@@ -85,7 +100,7 @@ BruteForceResult Search::Run() {
             Undo();
         }
         if (!PlaceNextDigit()) {
-            waiting_.Add(CellAt(position_));
+            PutBack(CellAt(position_));
             ++position_;
             isNew = false;
             continue;
@@ -94,7 +109,7 @@ BruteForceResult Search::Run() {
             result.stopped = true;
             break;
         }
-        isNew = !HasDeadCell();
+        isNew = !IsDeadEnd();
         position_ -= isNew ? 1 : 0;
     }
     if (!result.IsUnique()) {
@@ -113,7 +128,16 @@ void Search::ChooseCell() {
     }
     const int cell = CellAt(position_);
     untried_[At(cell)] = candidates_[At(cell)];
-    waiting_.Remove(cell);
+    for (Marks marks = candidates_[At(cell)]; marks != 0; marks &= static_cast<Marks>(marks - 1)) {
+        places_[At(FirstDigit(marks))].Remove(cell);
+    }
+}
+
+// The cell waits again.
+void Search::PutBack(int cell) {
+    for (Marks marks = candidates_[At(cell)]; marks != 0; marks &= static_cast<Marks>(marks - 1)) {
+        places_[At(FirstDigit(marks))].Add(cell);
+    }
 }
 
 // False where every candidate of the cell was tried.
@@ -132,14 +156,14 @@ bool Search::PlaceNextDigit() {
 
 // Takes the digit from the waiting cells that see the cell, and notes from which.
 void Search::RemoveCandidates(int cell, int digit) {
-    Undoable entry{static_cast<std::uint8_t>(cell), static_cast<std::uint8_t>(digit), {}};
-    for (int peer : Peers(cell) & waiting_) {
-        if (HasMark(candidates_[At(peer)], digit)) {
-            candidates_[At(peer)] &= static_cast<Marks>(~MarkOf(digit));
-            entry.losers.Add(peer);
-        }
+    const CellSet losers = places_[At(digit)] & Peers(cell);
+    for (int peer : losers) {
+        candidates_[At(peer)] &= static_cast<Marks>(~MarkOf(digit));
     }
-    stack_[At(depth_++)] = entry;
+    places_[At(digit)] -= losers;
+    held_[At(digit)].Add(cell);
+    stack_[At(depth_++)] = {static_cast<std::uint8_t>(cell), static_cast<std::uint8_t>(digit),
+                            losers};
 }
 
 void Search::Undo() {
@@ -147,13 +171,40 @@ void Search::Undo() {
     for (int peer : entry.losers) {
         candidates_[At(peer)] |= MarkOf(entry.digit);
     }
+    places_[At(entry.digit)] |= entry.losers;
+    held_[At(entry.digit)].Remove(entry.cell);
     grid_[At(entry.cell)] = 0;
 }
 
-// Only a cell that the last placement took something from can have lost its last candidate.
-bool Search::HasDeadCell() const {
-    for (int peer : stack_[At(depth_ - 1)].losers) {
-        if (candidates_[At(peer)] == 0) {
+bool Search::HasPlace(const Unit& unit, int digit) const {
+    return ((places_[At(digit)] | held_[At(digit)]) & unit.set).Any();
+}
+
+bool Search::HasPlaceAround(int cell, int digit) const {
+    return std::ranges::all_of(
+        kUnitKinds, [&](UnitKind kind) { return HasPlace(UnitAround(kind, cell), digit); });
+}
+
+// Only what the last placement touched can be without a candidate or a place now.
+bool Search::IsDeadEnd() const {
+    const Undoable& last = stack_[At(depth_ - 1)];
+    for (int peer : last.losers) {
+        if (candidates_[At(peer)] == 0 || !HasPlaceAround(peer, last.digit)) {
+            return true;
+        }
+    }
+    Marks others = candidates_[At(last.cell)] & static_cast<Marks>(~MarkOf(last.digit));
+    for (; others != 0; others &= static_cast<Marks>(others - 1)) {
+        if (!HasPlaceAround(last.cell, FirstDigit(others))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Search::HasUnitWithoutPlace() const {
+    for (int digit = 1; digit <= kDigits; ++digit) {
+        if (!std::ranges::all_of(kUnits, [&](const Unit& unit) { return HasPlace(unit, digit); })) {
             return true;
         }
     }

@@ -55,7 +55,7 @@ Expect 'a link as the list to be written' 3 'no regular file' \
 # An answer comes before the next line is asked for.
 mkfifo "$scratch/questions" "$scratch/answers"
 "$program" rate "$scratch/questions" >"$scratch/answers" &
-exec 3>"$scratch/questions" 4<"$scratch/answers"
+exec 4<"$scratch/answers" 3>"$scratch/questions"
 grep -m 1 -v '^#' "$list" >&3
 read -r -t 20 answer <&4 || Fail 'the answer waits for more input'
 [[ ${answer:-} == *$'\t'Easy$'\t'* ]] || Fail "the answer is: ${answer:-}"

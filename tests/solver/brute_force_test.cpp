@@ -79,16 +79,15 @@ TEST(BruteForce, AgreesWithAPlainRecursion) {
 }
 
 TEST(BruteForce, StopsWhenItsYieldSaysSo) {
-    // Passes five times 4,096 placements on the way to its second solution, the first solution
-    // before the last of them.
+    // Passes four times 4,096 placements on the way to its second solution.
     const Digits slow = ParseDigits(
-        "....3...2......93....5.4.1.5..........7..1......9......9.....6..64.....1......5..");
+        "3...6.....9.8..7..6..4.....1...8..3..................2..2..4..88.3..1.2..4......1");
     int asked = 0;
     const BruteForceResult whole = UniqueSud(slow, [&] { return ++asked > 0; });
     EXPECT_EQ(whole.solutionCount, 2);
     EXPECT_FALSE(whole.stopped);
-    EXPECT_EQ(asked, 5);
-    for (int last = 1; last <= 5; ++last) {
+    EXPECT_EQ(asked, 4);
+    for (int last = 1; last <= 4; ++last) {
         asked = 0;
         const BruteForceResult result = UniqueSud(slow, [&] { return ++asked < last; });
         EXPECT_EQ(asked, last);
@@ -111,6 +110,15 @@ TEST(PreSolve, GoesAsFarAsTheEasyStepsAndLeavesTheGridLegal) {
     EXPECT_TRUE(PreSolve(GridWith({{kNoUnit, "", "E5"}})).invalid);
     // Both cells need the 1, so that the second is left with nothing.
     EXPECT_TRUE(PreSolve(GridWith({{kNoUnit, "1", "A1 A9"}})).invalid);
+}
+
+// Row H has no place for 3, deep below a thousand branches that all look open.
+TEST(BruteForce, AUnitWithoutAPlaceForADigitIsNoticedBeforeTheBranchesBelowIt) {
+    const Digits clues = test::ParseDigits(
+        "........7......5..3...................6.......43...9......4.3...7..........3..8..");
+    for (const BruteForceResult& result : {BruteForceSolve(clues), UniqueSud(clues)}) {
+        EXPECT_EQ(result.solutionCount, 0);
+    }
 }
 
 }  // namespace
