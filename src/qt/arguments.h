@@ -1,0 +1,27 @@
+// The command line of the game.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace vemo {
+
+struct Arguments {
+    enum class Task : unsigned char { Play, Demo };
+    Task task = Task::Play;
+    QString demoFile;
+    QString error;  // what is wrong; empty for a good command line
+};
+
+// `given` is without the program's name, without what the toolkit takes for itself, and without
+// the arguments that only print a text.
+Arguments ReadArguments(const QStringList& given);
+
+QString UsageText();
+QString VersionText();
+
+// Why no window can be opened here, as a sentence; empty where one can. The toolkit itself would
+// only abort. `given` is the whole command line without the program's name.
+QString WhyNoDisplay(const QStringList& given);
+
+}  // namespace vemo

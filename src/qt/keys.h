@@ -1,0 +1,36 @@
+// What the keys of the keyboard mean to the game. Menu shortcuts stand in the menu table.
+#pragma once
+
+#include <optional>
+
+#include "game/game.h"
+
+class QKeyEvent;
+
+namespace vemo {
+
+struct KeyAction {
+    enum class Kind : std::uint8_t {
+        Move,
+        Assign,
+        ToggleMark,
+        FilterDigit,
+        ResetCell,
+        Hint,
+        Redo,
+        LinkMode,
+        Pause,
+    };
+    Kind kind;
+    int digit = 0;
+    Direction direction = Direction::Left;
+    Jump jump = Jump::NextCell;
+
+    bool operator==(const KeyAction&) const = default;
+};
+
+std::optional<KeyAction> ActionOf(const QKeyEvent& event);
+
+void Do(Game& game, const KeyAction& action);
+
+}  // namespace vemo

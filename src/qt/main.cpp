@@ -1,0 +1,105 @@
+// The game in its window.
+#include <cstdio>
+#include <cstdlib>
+
+#include <QApplication>
+
+#include "platform/plain_files.h"
+#include "qt/arguments.h"
+#include "qt/board_accessible.h"
+#include "qt/demo.h"
+#include "qt/look.h"
+#include "qt/main_window.h"
+#include "qt/make_sounds.h"
+#include "qt/qt_clock.h"
+#include "qt/qt_folders.h"
+#include "qt/qt_settings.h"
+#include "qt/window_view.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Task = vemo::Arguments::Task;
+
+constexpr std::string_view kWindow = "Window";
+constexpr std::string_view kPlace = "Geometry";
+
+constexpr int kFailure = 1;
+constexpr int kWrongUsage = 2;
+
+int Complain(const QString& what, int code) {
+    std::fprintf(stderr, "vemosud2: %s\n", qPrintable(what));
+    return code;
+}
+
+int Print(const QString& text) {
+    std::fputs(qPrintable(text), stdout);
+    return 0;
+}
+
+// Where the window stood last, in the toolkit's own words.
+void RestorePlace(vemo::MainWindow& window, vemo::SettingsStore& settings) {
+    const std::string place = settings.Get(kWindow, kPlace, "");
+    window.restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(place)));
+}
+
+void KeepPlace(const vemo::MainWindow& window, vemo::SettingsStore& settings) {
+    settings.Save(kWindow, kPlace, window.saveGeometry().toBase64().toStdString());
+    settings.Flush();
+}
+
+int Play() {
+    vemo::QtSettings settings;
+    vemo::QtFolders folders;
+    vemo::PlainFiles files;
+    vemo::QtClock clock;
+    const std::unique_ptr<vemo::GameSounds> sounds = vemo::MakeSounds();
+    vemo::WindowView view;
+    vemo::Game game({settings, folders, files, *sounds, clock}, view);
+    vemo::MainWindow window(game);
+    view.Attach(&window);
+    RestorePlace(window, settings);
+    game.FormLoad();
+    if (view.IsClosed()) {
+        return kFailure;
+    }
+    window.show();
+    const int code = QApplication::exec();
+    KeepPlace(window, settings);
+    // Everything is kept; the toolkit's own end would wait for the sound server.
+    if (!sounds->End()) {
+        std::_Exit(code);
+    }
+    return code;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QStringList given;
+    for (int index = 1; index < argc; ++index) {
+        given << QString::fromLocal8Bit(argv[index]);
+    }
+    if (given.contains(u"--version"_s)) {
+        return Print(vemo::VersionText());
+    }
+    if (given.contains(u"--help"_s) || given.contains(u"-h"_s)) {
+        return Print(vemo::UsageText());
+    }
+    if (const QString reason = vemo::WhyNoDisplay(given); !reason.isEmpty()) {
+        if (!given.contains(u"--demo"_s)) {
+            return Complain(reason, kFailure);
+        }
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication::setStyle(new vemo::Look);
+    vemo::InstallBoardAccessibility();
+    const QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(u"vemosud2"_s);
+    const vemo::Arguments arguments = vemo::ReadArguments(QCoreApplication::arguments().mid(1));
+    if (!arguments.error.isEmpty()) {
+        return Complain(arguments.error + u" (see --help)"_s, kWrongUsage);
+    }
+    return arguments.task == Task::Demo ? vemo::RunDemo(arguments.demoFile) : Play();
+}

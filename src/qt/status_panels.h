@@ -1,0 +1,42 @@
+// The five panels of the status bar. They wrap to further lines before any text is cut.
+#pragma once
+
+#include <array>
+
+#include <QWidget>
+
+#include "game/screen.h"
+
+class QLabel;
+
+namespace vemo {
+
+class StatusPanels final : public QWidget {
+  public:
+    explicit StatusPanels(QWidget* parent);
+
+    void ShowScreen(const Screen& screen);
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    // Where the panels stand in `width`, and the height that they need.
+    struct Plan {
+        std::array<QRect, kStatusPanels> places;
+        int height = 0;
+    };
+    Plan PlanFor(int width) const;
+    void Arrange();
+
+    std::array<QLabel*, kStatusPanels> labels_{};
+    std::array<QString, kStatusPanels> texts_;
+};
+
+}  // namespace vemo

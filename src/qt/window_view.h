@@ -1,0 +1,34 @@
+// What the game asks of its window: boxes, yielding, leaving.
+#pragma once
+
+#include "game/view.h"
+
+namespace vemo {
+
+class MainWindow;
+
+class WindowView final : public View {
+  public:
+    // The game is made before its window: until then there is nothing to refresh, and no box can
+    // be shown.
+    void Attach(MainWindow* window) { window_ = window; }
+    // The game ended itself, if only before its window was shown.
+    bool IsClosed() const { return isClosed_; }
+
+    Answer ShowBox(const Box& box) override;
+    std::optional<std::string> Ask(const Question& question) override;
+    void Yield() override;
+    void Refresh() override;
+    void Beep() override;
+    void OpenLink(const std::string& address) override;
+    void Close() override;
+
+  private:
+    // A box asks over its window, not over nothing.
+    void ShowWindow();
+
+    MainWindow* window_ = nullptr;
+    bool isClosed_ = false;
+};
+
+}  // namespace vemo

@@ -1,0 +1,137 @@
+// Every part of the window has its room at every size: nothing overlaps, no text is cut.
+#include <QAbstractButton>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "qt/window_fixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace vemo::test {
+
+class LayoutTest final : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void EverythingHasItsRoom_data();
+    void EverythingHasItsRoom();
+    void TheColumnGoesBelowInATallWindow();
+    void LongStatusTextsWrap();
+
+  private:
+    static QStringList Overlaps(QWidget& parent);
+    static QStringList CutTexts(QWidget& parent);
+};
+
+QString NameOf(const QWidget* widget) {
+    const QString name = widget->objectName();
+    return name.isEmpty() ? QString::fromLatin1(widget->metaObject()->className()) : name;
+}
+
+// Siblings that share a pixel, and children that leave their parent, at every depth. The level
+// cards lie over the board on purpose; a text box arranges its own parts.
+QStringList LayoutTest::Overlaps(QWidget& parent) {
+    QStringList found;
+    QList<QWidget*> shown;
+    for (QWidget* child : parent.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (!child->isVisible() || child->isWindow() || child->objectName() == u"LevelCards"_s) {
+            continue;
+        }
+        if (!parent.rect().contains(child->geometry())) {
+            found << NameOf(child) + u" leaves "_s + NameOf(&parent);
+        }
+        for (QWidget* other : shown) {
+            if (other->geometry().intersects(child->geometry())) {
+                found << NameOf(child) + u" overlaps "_s + NameOf(other);
+            }
+        }
+        shown << child;
+        if (qobject_cast<QPlainTextEdit*>(child) == nullptr) {
+            found << Overlaps(*child);
+        }
+    }
+    return found;
+}
+
+QStringList LayoutTest::CutTexts(QWidget& parent) {
+    QStringList found;
+    for (QLabel* label : parent.findChildren<QLabel*>()) {
+        const bool fits = label->wordWrap()
+                              ? label->heightForWidth(label->width()) <= label->height()
+                              : label->sizeHint().width() <= label->width() &&
+                                    label->fontMetrics().height() <= label->height();
+        if (label->isVisible() && !fits) {
+            found << NameOf(label) + u": "_s + label->text();
+        }
+    }
+    for (QAbstractButton* button : parent.findChildren<QAbstractButton*>()) {
+        const QFontMetrics metrics = button->fontMetrics();
+        const int width = metrics.horizontalAdvance(QString(button->text()).remove(u'&'));
+        if (button->isVisible() &&
+            (width + 4 > button->width() || metrics.height() > button->height())) {
+            found << NameOf(button) + u": "_s + button->text();
+        }
+    }
+    return found;
+}
+
+void LayoutTest::EverythingHasItsRoom_data() {
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("smallest") << QSize(480, 480);
+    QTest::newRow("usual") << QSize(1120, 800);
+    QTest::newRow("tall") << QSize(700, 1100);
+    QTest::newRow("narrow") << QSize(480, 1000);
+    QTest::newRow("flat") << QSize(1400, 480);
+    QTest::newRow("large") << QSize(2560, 1440);
+}
+
+void LayoutTest::EverythingHasItsRoom() {
+    QFETCH(QSize, size);
+    WindowFixture fixture(QStringLiteral(VEMO_ASSETS));
+    fixture.window.resize(size);
+    QCOMPARE(fixture.window.size(), size);
+    for (const bool isOpen : {false, true}) {
+        if (isOpen) {
+            fixture.OpenFirstEasy();
+            QTest::mouseClick(&fixture.Find<QAbstractButton>("LabelColor0"), Qt::LeftButton);
+            QTest::mouseClick(&fixture.Find<QAbstractButton>("LabelColor9"), Qt::RightButton);
+            fixture.game.CommandHintClick();
+        }
+        QCOMPARE(Overlaps(fixture.window).join(u'\n'), QString());
+        QCOMPARE(CutTexts(fixture.window).join(u'\n'), QString());
+        const BoardWidget& board = fixture.window.Board();
+        QVERIFY(std::abs(board.BoardRect().width() - board.BoardRect().height()) <= 1);
+        QVERIFY(board.rect().contains(board.BoardRect()));
+        // The board is the thing.
+        QVERIFY(board.BoardRect().width() * 2 > std::min(size.width(), size.height()));
+    }
+}
+
+void LayoutTest::TheColumnGoesBelowInATallWindow() {
+    WindowFixture fixture(QStringLiteral(VEMO_ASSETS));
+    const auto& column = fixture.Find<QWidget>("SideColumn");
+    fixture.window.resize(1120, 800);
+    QVERIFY(column.geometry().left() > fixture.window.Board().geometry().right());
+    fixture.window.resize(600, 1000);
+    QVERIFY(column.geometry().top() > fixture.window.Board().geometry().bottom());
+}
+
+void LayoutTest::LongStatusTextsWrap() {
+    WindowFixture fixture(QStringLiteral(VEMO_ASSETS));
+    const auto& first = fixture.Find<QLabel>("Panel1");
+    const auto& last = fixture.Find<QLabel>("Panel5");
+    fixture.window.resize(1120, 800);
+    QCOMPARE(last.y(), first.y());
+    fixture.window.resize(480, 480);
+    QVERIFY(last.y() > first.geometry().bottom());
+    QCOMPARE(last.text(), u"Level Average Time: 00:00"_s);
+}
+
+}  // namespace vemo::test
+
+int main(int argc, char** argv) {
+    return vemo::test::RunWindowTests<vemo::test::LayoutTest>(argc, argv);
+}
+
+#include "layout_test.moc"
