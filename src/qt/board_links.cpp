@@ -5,7 +5,6 @@
 #include <array>
 #include <cmath>
 
-#include <QLineF>
 #include <QPainter>
 
 namespace vemo {
@@ -13,6 +12,7 @@ namespace {
 
 constexpr double kLineShare = 0.032;  // of a cell
 constexpr double kArrowShare = 0.13;
+constexpr double kMarkGap = 1.12;  // of a mark's radius, that a line keeps from its middle
 constexpr int kSamples = 32;
 
 // How far a curve's middle is pushed aside, in shares of its length, the gentlest first.
@@ -29,13 +29,25 @@ double Length(const QPointF& vector) {
     return std::hypot(vector.x(), vector.y());
 }
 
-QPainterPath Curve(const QPointF& from, const QPointF& to, double bend) {
+// A quadratic Bézier curve.
+struct Curve {
+    QPointF from;
+    QPointF control;
+    QPointF to;
+
+    // The curve's point for a = b; for two parameters the control point of the part between them.
+    QPointF At(double a, double b) const {
+        return (1 - a) * (1 - b) * from + ((1 - a) * b + a * (1 - b)) * control + a * b * to;
+    }
+    QPointF At(double at) const { return At(at, at); }
+    Curve Part(double begin, double end) const { return {At(begin), At(begin, end), At(end)}; }
+};
+
+Curve Bent(const QPointF& from, const QPointF& to, double bend) {
     const QPointF along = to - from;
     const QPointF aside(-along.y(), along.x());
-    QPainterPath path(from);
-    // A quadratic curve reaches half as far as its control point.
-    path.quadTo((from + to) / 2 + aside * bend * 2, to);
-    return path;
+    // The curve reaches half as far as its control point.
+    return {from, (from + to) / 2 + aside * bend * 2, to};
 }
 
 // A digit counts more than a mark; outside the board is no place for a line at all.
@@ -54,63 +66,75 @@ double CostAt(const QPointF& point, const BoardGeometry& board, const Screen& sc
     return mark.isShown && Length(point - middle) < board.MarkRadius() ? kMarkCost : 0;
 }
 
-double CostOf(const QPainterPath& path, double bend, const BoardGeometry& board,
-              const Screen& screen) {
+double CostOf(const Curve& curve, double bend, const BoardGeometry& board, const Screen& screen) {
     double cost = kBendCost * std::abs(bend);
     // The ends lie on the two marks themselves.
     for (int sample = 3; sample <= kSamples - 3; ++sample) {
-        cost += CostAt(path.pointAtPercent(double(sample) / kSamples), board, screen);
+        cost += CostAt(curve.At(static_cast<double>(sample) / kSamples), board, screen);
     }
     return cost;
 }
 
-QPainterPath Shortened(const QPainterPath& path, double radius) {
-    const double length = path.length();
-    if (length <= 2 * radius) {
-        return path;
+Curve BestCurve(const LinkView& link, const BoardGeometry& board, const Screen& screen) {
+    const QPointF from = board.MarkCenter(link.fromCell, link.fromDigit);
+    const QPointF to = board.MarkCenter(link.toCell, link.toDigit);
+    Curve best = Bent(from, to, kBends[0]);
+    double lowest = CostOf(best, kBends[0], board, screen);
+    for (double bend : kBends) {
+        const Curve curve = Bent(from, to, bend);
+        const double cost = CostOf(curve, bend, board, screen);
+        if (cost < lowest) {
+            best = curve;
+            lowest = cost;
+        }
     }
-    // Cut at both ends by drawing the middle part anew: a quadratic curve's part is one again.
-    const auto point = [&path](double at) { return path.pointAtPercent(at); };
-    const double begin = path.percentAtLength(radius);
-    const double end = path.percentAtLength(length - radius);
-    const double middle = (begin + end) / 2;
-    QPainterPath cut(point(begin));
-    cut.quadTo(2 * point(middle) - (point(begin) + point(end)) / 2, point(end));
-    return cut;
+    return best;
 }
 
-void DrawArrowHead(QPainter& painter, const QPainterPath& path, double size, const QColor& color) {
-    const QPointF tip = path.currentPosition();
-    const double back = path.percentAtLength(std::max(0.0, path.length() - size));
-    const QLineF line(tip, path.pointAtPercent(back));
-    if (line.length() <= 0) {
+// Where the curve has left the circle of `radius` around one of its ends: its part between both.
+Curve BetweenMarks(const Curve& curve, double radius) {
+    constexpr double kStep = 0.005;
+    double begin = 0;
+    while (begin < 0.45 && Length(curve.At(begin) - curve.from) < radius) {
+        begin += kStep;
+    }
+    double end = 1;
+    while (end > 0.55 && Length(curve.At(end) - curve.to) < radius) {
+        end -= kStep;
+    }
+    return curve.Part(begin, end);
+}
+
+void DrawArrowHead(QPainter& painter, const Curve& curve, double size, const QColor& color) {
+    // The tangent at a quadratic curve's end points to its control point.
+    const QPointF back = curve.control - curve.to;
+    if (Length(back) <= 0) {
         return;
     }
-    const QPointF along = (line.p2() - line.p1()) / line.length() * size;
+    const QPointF along = back / Length(back) * size;
     const QPointF aside = QPointF(-along.y(), along.x()) * 0.5;
-    const std::array<QPointF, 3> corners = {tip, tip + along + aside, tip + along - aside};
+    const std::array<QPointF, 3> corners = {curve.to, curve.to + along + aside,
+                                            curve.to + along - aside};
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
     painter.drawPolygon(corners.data(), static_cast<int>(corners.size()));
     painter.setBrush(Qt::NoBrush);
 }
 
+QPainterPath PathOf(const Curve& curve) {
+    QPainterPath path(curve.from);
+    path.quadTo(curve.control, curve.to);
+    return path;
+}
+
+Curve CurveOf(const LinkView& link, const BoardGeometry& board, const Screen& screen) {
+    return BetweenMarks(BestCurve(link, board, screen), kMarkGap * board.MarkRadius());
+}
+
 }  // namespace
 
 QPainterPath LinkPath(const LinkView& link, const BoardGeometry& board, const Screen& screen) {
-    const QPointF from = board.MarkCenter(link.fromCell, link.fromDigit);
-    const QPointF to = board.MarkCenter(link.toCell, link.toDigit);
-    QPainterPath best;
-    double lowest = 0;
-    for (double bend : kBends) {
-        const QPainterPath path = Curve(from, to, bend);
-        const double cost = CostOf(path, bend, board, screen);
-        if (best.isEmpty() || cost < lowest) {
-            best = path;
-            lowest = cost;
-        }
-    }
-    return Shortened(best, 1.12 * board.MarkRadius());
+    return PathOf(CurveOf(link, board, screen));
 }
 
 void DrawLinks(QPainter& painter, const BoardGeometry& board, const Screen& screen,
@@ -125,15 +149,15 @@ void DrawLinks(QPainter& painter, const BoardGeometry& board, const Screen& scre
     for (const LinkView& link : screen.links) {
         const QColor color =
             colors.Hint(link.isStrong ? HintColor::StrongLink : HintColor::WeakLink);
-        const QPainterPath path = LinkPath(link, board, screen);
+        const Curve curve = CurveOf(link, board, screen);
         QPen pen(color, width, Qt::SolidLine, Qt::FlatCap);
         if (!link.isStrong) {
             pen.setDashPattern({4, 2.5});
         }
         painter.setPen(pen);
-        painter.drawPath(path);
+        painter.drawPath(PathOf(curve));
         if (link.isDirected) {
-            DrawArrowHead(painter, path, kArrowShare * board.cell, color);
+            DrawArrowHead(painter, curve, kArrowShare * board.cell, color);
         }
     }
     painter.restore();

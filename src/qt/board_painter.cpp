@@ -121,33 +121,33 @@ void BoardPainter::PaintDigit(const CellView& cell, const QRect& place) {
 void BoardPainter::PaintMarks(const Screen& screen, int number) {
     const CellView& cell = screen.cells[static_cast<std::size_t>(number)];
     const QColor fill = FillOf(cell, colors_);
-    const QColor plain = TextOn(cell, colors_.theme.mark);
-    const QFont font = FontOf(board_.markPx, QFont::Normal);
+    const QColor text = TextOn(cell, colors_.theme.mark);
     for (int digit = 1; digit <= kDigits; ++digit) {
         const MarkView& mark =
             screen.marks[static_cast<std::size_t>(number)][static_cast<std::size_t>(digit - 1)];
         const QPointF center = board_.MarkCenter(number, digit);
         if (mark.role != Role::None) {
-            DrawRole(painter_, center, board_.MarkRadius(), mark.role, digit, font, colors_, fill);
-            continue;
+            DrawRole(painter_, center, board_.MarkRadius(), mark.role, digit,
+                     FontOf(board_.markPx, QFont::Normal), colors_, fill);
+        } else if (mark.isFiltered) {
+            PaintFilteredMark(center, digit);
+        } else if (mark.isShown) {
+            painter_.setFont(FontOf(board_.markPx, QFont::Normal));
+            painter_.setPen(mark.isDimmed ? Mixed(fill, text, kDimmedMarkShare) : text);
+            DrawCentered(painter_, center, QString::number(digit));
         }
-        if (!mark.isShown) {
-            continue;
-        }
-        QColor color = mark.isDimmed ? Mixed(fill, plain, kDimmedMarkShare) : plain;
-        painter_.setFont(font);
-        if (mark.isFiltered) {
-            painter_.setRenderHint(QPainter::Antialiasing);
-            painter_.setPen(Qt::NoPen);
-            painter_.setBrush(colors_.theme.sameDigit);
-            painter_.drawEllipse(center, board_.MarkRadius(), board_.MarkRadius());
-            painter_.setRenderHint(QPainter::Antialiasing, false);
-            painter_.setFont(FontOf(board_.markPx, QFont::Bold));
-            color = colors_.theme.accent;
-        }
-        painter_.setPen(color);
-        DrawCentered(painter_, center, QString::number(digit));
     }
+}
+
+void BoardPainter::PaintFilteredMark(const QPointF& center, int digit) {
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(colors_.theme.sameDigit);
+    painter_.drawEllipse(center, board_.MarkRadius(), board_.MarkRadius());
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+    painter_.setFont(FontOf(board_.markPx, QFont::Bold));
+    painter_.setPen(colors_.theme.accent);
+    DrawCentered(painter_, center, QString::number(digit));
 }
 
 void BoardPainter::PaintLines() {
@@ -206,24 +206,28 @@ void BoardPainter::PaintStrip(const Screen& screen, UnitKind kind, int index) {
     }
     const QColor wellColor = color;
     if (label.isRed) {
-        color = colors_.theme.wrong;
+        const bool isPainted = label.brush != kNoBrush;
+        color = MadeReadable(colors_.theme.wrong,
+                             isPainted ? colors_.Brush(label.brush) : colors_.theme.window);
     }
     painter_.setFont(FontOf(board_.labelPx, label.isRed ? QFont::Bold : QFont::DemiBold));
     painter_.setPen(color);
     const char name = isRow ? RowLetter(index) : ColumnDigit(index);
     DrawCentered(painter_, board_.LabelCenter(kind, index, screen.areWellsShown),
                  QString(QLatin1Char(name)));
-    if (!screen.areWellsShown) {
-        return;
+    if (screen.areWellsShown) {
+        painter_.setPen(wellColor);
+        PaintWell((isRow ? screen.rowWells : screen.columnWells)[at], kind, index);
     }
-    const Marks well = (isRow ? screen.rowWells : screen.columnWells)[at];
+}
+
+void BoardPainter::PaintWell(Marks well, UnitKind kind, int index) {
     painter_.setFont(FontOf(board_.wellPx, QFont::Normal));
-    painter_.setPen(wellColor);
     for (int digit = 1; digit <= kDigits; ++digit) {
-        if (!HasMark(well, digit)) {
-            continue;
+        if (HasMark(well, digit)) {
+            DrawCentered(painter_, board_.WellDigitCenter(kind, index, digit),
+                         QString::number(digit));
         }
-        DrawCentered(painter_, board_.WellDigitCenter(kind, index, digit), QString::number(digit));
     }
 }
 

@@ -37,9 +37,11 @@ class BoardPainter {
     QColor TextOn(const CellView& cell, const QColor& plain) const;
     void PaintDigit(const CellView& cell, const QRect& place);
     void PaintMarks(const Screen& screen, int number);
+    void PaintFilteredMark(const QPointF& center, int digit);
     void PaintLines();
     void PaintSelection(int number, bool hasFocus);
     void PaintStrip(const Screen& screen, UnitKind kind, int index);
+    void PaintWell(Marks well, UnitKind kind, int index);
     void PaintCover();
     QFont FontOf(int pixels, QFont::Weight weight) const;
 

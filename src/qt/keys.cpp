@@ -83,9 +83,7 @@ std::optional<KeyAction> WithControl(int key, bool isPad) {
     return std::nullopt;
 }
 
-}  // namespace
-
-std::optional<KeyAction> ActionOf(const QKeyEvent& event) {
+std::optional<KeyAction> Pressed(const QKeyEvent& event) {
     const bool isPad = event.modifiers().testFlag(Qt::KeypadModifier);
     // Shift tells nothing about a digit: some layouts need it to type one.
     const Qt::KeyboardModifiers modifiers =
@@ -104,6 +102,14 @@ std::optional<KeyAction> ActionOf(const QKeyEvent& event) {
         return KeyAction{Kind::FilterDigit, digit};
     }
     return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<KeyAction> ActionOf(const QKeyEvent& event) {
+    const std::optional<KeyAction> action = Pressed(event);
+    const bool mayRepeat = action && action->kind == Kind::Move;
+    return event.isAutoRepeat() && !mayRepeat ? std::nullopt : action;
 }
 
 void Do(Game& game, const KeyAction& action) {

@@ -29,6 +29,7 @@ struct KeyAction {
     bool operator==(const KeyAction&) const = default;
 };
 
+// A key that is held down moves the selection and does nothing else again.
 std::optional<KeyAction> ActionOf(const QKeyEvent& event);
 
 void Do(Game& game, const KeyAction& action);

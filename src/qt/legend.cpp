@@ -45,7 +45,7 @@ bool Legend::ShowEntries(const std::vector<LegendEntry>& entries, const BoardCol
     for (const LegendEntry& entry : entries_) {
         words << ToQString(entry.text);
     }
-    setAccessibleDescription(words.join(u", "_s));
+    setAccessibleName(u"Legend: "_s + words.join(u", "_s));
     update();
     return true;
 }

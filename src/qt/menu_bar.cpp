@@ -21,7 +21,6 @@ bool IsKeyOfWindow(CommandId id) {
 }
 
 void SetUp(QAction& action, const MenuRow& row) {
-    action.setObjectName(u"menu%1"_s.arg(static_cast<int>(row.id)));
     action.setCheckable(row.kind != MenuRowKind::Command);
     action.setToolTip(ToQString(row.toolTip));
     action.setMenuRole(QAction::NoRole);

@@ -43,6 +43,11 @@ void WindowContent::resizeEvent(QResizeEvent*) {
     Arrange();
 }
 
+// A hidden widget hears of its size when it is shown; before, the cards lay over a board of none.
+void WindowContent::showEvent(QShowEvent*) {
+    Arrange();
+}
+
 void WindowContent::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange) {

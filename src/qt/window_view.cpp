@@ -49,14 +49,16 @@ std::span<const BoxButton> ButtonsOf(BoxButtons buttons) {
     return kOk;
 }
 
-// A short text would make the box too narrow for its title.
+// A short text would make the box too narrow for its title. A long one is wrapped by the box, as
+// long as its label has no width of its own.
 void LeaveRoomForTitle(QMessageBox& message) {
     auto* label = message.findChild<QLabel*>(u"qt_msgbox_label"_s);
-    if (label == nullptr) {
-        return;
+    const QFontMetrics metrics = message.fontMetrics();
+    const int title =
+        metrics.horizontalAdvance(message.windowTitle()) * kBoldTitle / 100 + kTitleButtons;
+    if (label != nullptr && metrics.size(0, message.text()).width() < title) {
+        label->setMinimumWidth(title);
     }
-    const int title = message.fontMetrics().horizontalAdvance(message.windowTitle());
-    label->setMinimumWidth(title * kBoldTitle / 100 + kTitleButtons);
 }
 
 }  // namespace

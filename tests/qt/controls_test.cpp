@@ -167,6 +167,8 @@ void ControlsTest::KeysOfTheBoard() {
     QVERIFY(action.has_value());
     QCOMPARE(int(action->kind), kind);
     QCOMPARE(action->digit, digit);
+    const QKeyEvent held(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), QString(), true);
+    QCOMPARE(ActionOf(held).has_value(), action->kind == KeyAction::Kind::Move);
 }
 
 void ControlsTest::DigitKeysWorkWhileAButtonHasTheFocus() {
