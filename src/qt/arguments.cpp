@@ -56,7 +56,8 @@ QString WhyNoDisplay(const QStringList& given) {
             return {};
         }
     }
-    return u"there is no display to open the window on: neither DISPLAY nor WAYLAND_DISPLAY is set."_s;
+    return u"there is no display to open the window on: neither DISPLAY nor WAYLAND_DISPLAY is "
+           u"set."_s;
 #else
     Q_UNUSED(given)
     return {};

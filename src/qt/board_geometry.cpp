@@ -21,6 +21,9 @@ constexpr double kGapShare = 0.07;
 constexpr double kWellPitchAcross = 0.80;
 constexpr double kWellPitchDown = 1.08;
 
+// Logical pixels that a line around a box has at least.
+constexpr double kThinnestThick = 1.6;
+
 // Logical pixels below which a text is not read any more.
 constexpr double kSmallestLabel = 10;
 constexpr double kSmallestWell = 7.5;
@@ -36,7 +39,8 @@ BoardGeometry OfCell(int cell, double scale, WellsRoom wells) {
     BoardGeometry board;
     board.cell = cell;
     board.thin = std::max(1, Rounded(kThinShare * cell));
-    board.thick = std::max(board.thin + 1, Rounded(kThickShare * cell));
+    board.thick =
+        std::max({board.thin + 1, Rounded(kThickShare * cell), Rounded(kThinnestThick * scale)});
     board.digitPx = Rounded(kDigitShare * cell);
     board.markPx =
         Rounded(std::clamp(kSmallestMark * scale, kMarkShare * cell, kLargestMarkShare * cell));

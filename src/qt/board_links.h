@@ -1,9 +1,6 @@
 // The lines between marks. They run around digits, not through them.
 #pragma once
 
-#include <functional>
-#include <span>
-
 #include <QPainterPath>
 
 #include "game/screen.h"

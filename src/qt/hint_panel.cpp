@@ -132,8 +132,11 @@ void HintPanel::Arrange() {
     const int applyHeight = apply_->isEnabled() ? line * (isTight ? 7 : 8) / 4 : 0;
     const int below =
         (legendHeight > 0 ? legendHeight + gap : 0) + (applyHeight > 0 ? applyHeight + gap : 0);
-    const int textHeight =
-        std::min(TextHeight(room.width()), WholeLines(room.height() - captionHeight - below));
+    const int wanted = TextHeight(room.width());
+    const int textHeight = std::min(wanted, WholeLines(room.height() - captionHeight - below));
+    // A bar that is there narrows the lines, so that it would go on being needed.
+    text_->setVerticalScrollBarPolicy(wanted <= textHeight ? Qt::ScrollBarAlwaysOff
+                                                           : Qt::ScrollBarAsNeeded);
 
     int top = room.top();
     const auto place = [&room, &top](QWidget* part, int width, int height, int after) {
