@@ -77,14 +77,14 @@ struct StepCost {
 };
 
 // The shortest of a few runs in microseconds: what else the machine does then hardly counts.
-double TimeOf(const Step& step, const Position& position, FirstFind& first) {
+double TimeOf(const Step& step, Solver& solver, FirstFind& first) {
     using Clock = std::chrono::steady_clock;
     constexpr int kRuns = 3;
     double shortest = std::numeric_limits<double>::max();
     for (int run = 0; run < kRuns; ++run) {
         first = FirstFind();
         const Clock::time_point start = Clock::now();
-        step.search(position, step.args, first);
+        solver.Search(step, first);
         const std::chrono::duration<double, std::micro> time = Clock::now() - start;
         shortest = std::min(shortest, time.count());
     }
@@ -95,7 +95,8 @@ StepCost CostOf(const Step& step, const std::vector<Grid>& positions) {
     StepCost cost;
     for (const Grid& grid : positions) {
         FirstFind first;
-        const double time = TimeOf(step, Position(grid), first);
+        Solver solver(grid);
+        const double time = TimeOf(step, solver, first);
         cost.finds += first.any ? 1 : 0;
         cost.total += time;
         cost.longest = std::max(cost.longest, time);
@@ -108,7 +109,7 @@ void PrintStepTable(const std::vector<Grid>& positions) {
     std::printf("\n%4s  %-28s %10s %10s %10s %10s\n", "slot", "step", "calls", "finds", "mean us",
                 "max us");
     for (const Step& step : Steps()) {
-        if (step.search == nullptr) {
+        if (!step.Finds()) {
             continue;
         }
         const StepCost cost = CostOf(step, positions);

@@ -73,13 +73,11 @@ class Judge final : public FindSink {
 };
 
 void JudgeAllSteps(const Grid& grid, const Digits& solution, Tallies& tallies) {
-    const Position position(grid);
+    Solver solver(grid);
     Judge judge(grid, solution, tallies);
     for (const std::span<const Step> steps : {Steps(), StepsOutsideTheLadder()}) {
         for (const Step& step : steps) {
-            if (step.search != nullptr) {
-                step.search(position, step.args, judge);
-            }
+            solver.Search(step, judge);
         }
     }
 }

@@ -8,6 +8,7 @@
 #include "cli/commands.h"
 #include "cli/line_loop.h"
 #include "solver/catalogue.h"
+#include "solver/solver.h"
 #include "tools/puzzle_line.h"
 
 namespace vemo {
@@ -158,11 +159,11 @@ class Collector final : public FindSink {
 };
 
 std::vector<Find> Search(const Grid& grid, const Target& target, Amount amount) {
-    const Position position(grid);
+    Solver solver(grid);
     Collector collector(target.title, amount);
     for (const Step* step : target.steps) {
-        if (step->search != nullptr && !collector.IsFull()) {
-            step->search(position, step->args, collector);
+        if (!collector.IsFull()) {
+            solver.Search(*step, collector);
         }
     }
     return collector.Finds();

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <utility>
 
 #include "solver/solver.h"
@@ -255,6 +256,15 @@ BruteForceResult BruteForceSolve(const Digits& clues, const SearchYield& yield) 
 
 BruteForceResult UniqueSud(const Digits& clues, const SearchYield& yield) {
     return HasClash(clues) ? NoSolution() : SearchFrom(Grid::FromClues(clues), yield);
+}
+
+SolveReport ReportOf(const BruteForceResult& result) {
+    assert(!result.stopped && "a search that was stopped has no answer");
+    if (result.IsUnique()) {
+        return {"Valid Sudoku", "This Sudoku has one unique solution"};
+    }
+    return {"Invalid Sudoku", result.solutionCount == 0 ? "This Sudoku has no solution"
+                                                        : "This Sudoku has more than one solution"};
 }
 
 }  // namespace vemo

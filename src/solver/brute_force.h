@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <optional>
+#include <string_view>
 
 #include "model/grid.h"
 
@@ -36,5 +37,13 @@ BruteForceResult BruteForceSolve(const Digits& clues, const SearchYield& yield =
 
 // The same search on the clues as they are.
 BruteForceResult UniqueSud(const Digits& clues, const SearchYield& yield = {});
+
+// The answer in the words of the solve report: title and text of its box. The search must have come
+// to its end.
+struct SolveReport {
+    std::string_view title;
+    std::string_view text;
+};
+SolveReport ReportOf(const BruteForceResult& result);
 
 }  // namespace vemo

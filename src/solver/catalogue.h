@@ -38,6 +38,9 @@ struct Step {
     std::string_view statusText;       // while a hint or autosolve scans
     std::string_view batchStatusText;  // the suffix while a batch check scans
     int penalty;                       // seconds charged for a hint
+    Trial trial = nullptr;             // instead of a search
+
+    bool Finds() const { return search != nullptr || trial != nullptr; }
 };
 
 // How a kind of hint is named, logged and explained.

@@ -19,6 +19,8 @@ bool IsFixed(int slot) {
     return slot < kFirstMovableSlot || slot > kLastMovableSlot;
 }
 
+}  // namespace
+
 bool IsValidOrder(const std::array<int, kSlots>& order) {
     std::array<bool, kSlots> taken{};
     for (int slot = 0; slot < kSlots; ++slot) {
@@ -31,8 +33,6 @@ bool IsValidOrder(const std::array<int, kSlots>& order) {
     }
     return true;
 }
-
-}  // namespace
 
 TechniqueSettings::TechniqueSettings() {
     for (int slot = 0; slot < kSlots; ++slot) {

@@ -22,9 +22,11 @@ struct TechniqueSettings {
     bool operator==(const TechniqueSettings&) const = default;
 };
 
-// Slots 0..7 are always on and slots 0..2 always halt, whatever is stored. Where any stored
-// position is outside 0..39, or the forty are no permutation that leaves the fixed slots in their
-// places, the whole order is the default one.
+// The forty positions are a permutation that leaves slots 0..7 and 39 in their places.
+bool IsValidOrder(const std::array<int, kSlots>& order);
+
+// Slots 0..7 are always on and slots 0..2 always halt, whatever is stored. Where the
+// stored order is not valid the whole order is the default one.
 TechniqueSettings ReadTechniqueSettings(SettingsStore& store);
 void WriteTechniqueSettings(SettingsStore& store, const TechniqueSettings& settings);
 

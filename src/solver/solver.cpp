@@ -58,6 +58,12 @@ Ladder QuickLadder() {
     return ladder;
 }
 
+Ladder TrialLadder() {
+    Ladder ladder = FixedLadder();
+    std::erase_if(ladder, [](const LadderStep& at) { return at.step->trial != nullptr; });
+    return ladder;
+}
+
 Ladder HintLadder(const TechniqueSettings& settings) {
     return UserLadder(settings, [](int) { return Mode::Hint; });
 }
@@ -79,15 +85,16 @@ PassResult Solver::Pass(const Ladder& ladder) {
         return PassResult::DeadEnd;
     }
     for (const auto& [step, mode] : ladder) {
-        if (watcher_ && !watcher_(*step)) {
+        if (!MayTry(*step)) {
             return PassResult::Stopped;
         }
-        if (step->search == nullptr) {
-            continue;
-        }
         FirstFind first;
-        step->search(position_, step->args, first);
-        if (!first.any) {
+        Search(*step, first);
+        if (isStopped_) {
+            return PassResult::Stopped;
+        }
+        // A hint must lead on.
+        if (!first.any || (mode == Mode::Hint && !first.found.ChangesSomething())) {
             continue;
         }
         lastStep_ = step;
@@ -104,8 +111,56 @@ PassResult Solver::Pass(const Ladder& ladder) {
     return PassResult::Nothing;
 }
 
+bool Solver::MayTry(const Step& step) {
+    triedStep_ = &step;
+    isStopped_ = watcher_ && !watcher_(step);
+    return !isStopped_;
+}
+
+void Solver::Search(const Step& step, FindSink& sink) {
+    if (step.search != nullptr) {
+        step.search(position_, step.args, sink);
+    } else if (step.trial != nullptr) {
+        step.trial(*this, sink);
+    }
+}
+
+Solver Solver::BeginTrial(int digit, int cell) {
+    Solver trial(position_.Cells());
+    trial.position_.Change().Zet(digit, cell);
+    --trial.emptyCount_;
+    trial.log_ = log_;
+    if (watcher_) {
+        // Whatever the trial tries, the run is still at the same step.
+        const Step& step = *triedStep_;
+        trial.watcher_ = [this, &step](const Step&) { return MayTry(step); };
+    }
+    return trial;
+}
+
+void Solver::KeepLeftover(const Solver& trial) {
+    const Grid before = position_.Cells();
+    for (int cell : before.EmptyCells()) {
+        const int digit = trial.position_.Cells().Digit(cell);
+        if (BitCount(before.MarksAt(cell)) != 1 || digit == 0) {
+            continue;
+        }
+        Grid& grid = position_.Change();
+        grid.Zet(digit, cell);
+        for (int peer : before.Candidates(digit) - CellSet::Of(cell)) {
+            grid.GiveBack(peer, digit);
+        }
+    }
+}
+
+void Solver::Log(std::string_view line) const {
+    if (log_) {
+        log_(line);
+    }
+}
+
 bool Solver::Apply(const Step& step, const Find& find) {
-    CheckAgainstSolution(step, find);
+    CheckAgainstSolution(find);
     if (log_) {
         log_(LogLine(find));
     }
@@ -136,6 +191,7 @@ bool Solver::ApplyEffects(const Find& find) {
 }
 
 void Solver::Record(const Find& find) {
+    CheckAgainstSolution(find);
     Grid& grid = position_.Change();
     grid.ClearRemovedMarks();
     for (const auto& [cell, digit] : find.removals) {
@@ -143,7 +199,7 @@ void Solver::Record(const Find& find) {
     }
 }
 
-void Solver::CheckAgainstSolution(const Step& step, const Find& find) {
+void Solver::CheckAgainstSolution(const Find& find) {
     if (!solution_) {
         return;
     }
@@ -151,10 +207,8 @@ void Solver::CheckAgainstSolution(const Step& step, const Find& find) {
     const bool sound =
         std::ranges::all_of(find.placements, isTrue) && std::ranges::none_of(find.removals, isTrue);
     unsoundFinds_ += sound ? 0 : 1;
-    assert((sound ||
-            Slots()[static_cast<std::size_t>(step.slot)].caption == "Bivalue Universal Grave +1") &&
+    assert((sound || find.kind == HintKind::BivalueGrave) &&
            "no step removes a solution digit or places a wrong one");
-    static_cast<void>(step);
 }
 
 bool RunToTheEnd(Solver& solver, const Ladder& ladder, const std::function<bool()>& yield) {

@@ -27,6 +27,8 @@ Ladder FixedLadder();
 
 // Slots 3..7 alone.
 Ladder QuickLadder();
+// The fixed ladder without its trials: what a trial itself may use.
+Ladder TrialLadder();
 
 // Slots 3..7, then positions 8..39 in the player's order, switched-off slots left out.
 Ladder HintLadder(const TechniqueSettings& settings);       // every step in hint mode
@@ -71,6 +73,9 @@ class Solver {
     const Step* LastStep() const { return lastStep_; }
     const Find& LastFind() const { return lastFind_; }
 
+    // Offers the step's finds on the grid as it stands.
+    void Search(const Step& step, FindSink& sink);
+
     // Tests for a dead end, then tries each step in turn; the first find that changes something,
     // or that is kept as a hint, ends the pass. A find that changes nothing is logged and passed
     // over.
@@ -80,8 +85,18 @@ class Solver {
     // the grid does not allow are left out. Answers whether anything changed.
     bool Apply(const Step& step, const Find& find);
 
+    // For trials. A copy of the state with the digit placed, which logs and can be stopped like
+    // this run.
+    Solver BeginTrial(int digit, int cell);
+    // Kept: a cell that had a single candidate before the trial stays as the trial left it, its
+    // peers as they were. In the ladder there is no such cell: naked singles come first.
+    void KeepLeftover(const Solver& trial);
+    void Log(std::string_view line) const;
+    bool IsStopped() const { return isStopped_; }
+
   private:
-    void CheckAgainstSolution(const Step& step, const Find& find);
+    bool MayTry(const Step& step);
+    void CheckAgainstSolution(const Find& find);
     bool ApplyEffects(const Find& find);
     void Record(const Find& find);
 
@@ -91,6 +106,8 @@ class Solver {
     int hardestSlot_ = kNoSlot;
     int stepCount_ = 0;
     int unsoundFinds_ = 0;
+    bool isStopped_ = false;
+    const Step* triedStep_ = nullptr;
     const Step* lastStep_ = nullptr;
     Find lastFind_;
     std::optional<Digits> solution_;

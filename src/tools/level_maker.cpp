@@ -107,7 +107,7 @@ PuzzleRecord MakePuzzle(ClueRange range, Random& random) {
 int HighestRatedLevel(const Ladder& ladder) {
     std::array<bool, kLevels + 1> hasSearch{};
     for (const LadderStep& at : ladder) {
-        hasSearch[static_cast<std::size_t>(at.step->level)] |= at.step->search != nullptr;
+        hasSearch[static_cast<std::size_t>(at.step->level)] |= at.step->Finds();
     }
     int level = 0;
     while (level < kOutlaw - 1 && hasSearch[static_cast<std::size_t>(level + 1)]) {

@@ -141,6 +141,37 @@ EffectSet Subsets(const Grid& grid, SubsetRule rule, int size) {
     return all;
 }
 
+// Two lines on which a digit stands exactly twice, on the same two crossing lines, and no third.
+EffectSet XWings(const Grid& grid) {
+    EffectSet all;
+    for (int digit = 1; digit <= 9; ++digit) {
+        for (int pair = 0; pair < 18 * 18; ++pair) {
+            const int one = pair / 18;
+            const int other = pair % 18;
+            const int sameKind = one / 9 * 9;
+            if (one >= other || sameKind != other / 9 * 9) {
+                continue;
+            }
+            const CellSet base = CellsOf(one) | CellsOf(other);
+            const CellSet corners = Holders(grid, base, digit);
+            CellSet cover;
+            for (int crossing = 9 - sameKind; crossing < 18 - sameKind; ++crossing) {
+                const int shared = (CellsOf(crossing) & corners).Count();
+                cover |= shared == 2 ? CellsOf(crossing) : CellSet();
+            }
+            int lines = 0;
+            for (int line = sameKind; line < sameKind + 9; ++line) {
+                const CellSet holders = Holders(grid, CellsOf(line), digit);
+                lines += holders.Count() == 2 && cover.Contains(holders) ? 1 : 0;
+            }
+            if (corners.Count() == 4 && cover.Count() == 18 && lines == 2) {
+                all.insert(Removals(grid, cover - base, 1u << digit));
+            }
+        }
+    }
+    return all;
+}
+
 struct Enumerator {
     const char* name;
     StepRow step;
@@ -162,6 +193,7 @@ const Enumerator kEnumerators[] = {
     {"HiddenTriple", kHiddenTriple,
      [](const Grid& grid) { return Subsets(grid, HiddenSubset, 3); }},
     {"NakedQuint", kNakedQuint, [](const Grid& grid) { return Subsets(grid, NakedSubset, 5); }},
+    {"XWing", kXWing, XWings},
 };
 
 EffectSet FoundBy(const Step& step, const Grid& grid) {

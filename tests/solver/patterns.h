@@ -1,6 +1,7 @@
 // Positions made by hand: a grid with all nine marks in every cell, from which a pattern is cut.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,7 +22,8 @@ enum StepRow {
     kHiddenPair,
     kNakedQuad,
     kHiddenTriple,
-    kNakedQuint
+    kNakedQuint,
+    kXWing
 };
 inline const Step& StepAt(int row) {
     return Steps()[static_cast<std::size_t>(row)];
@@ -64,14 +66,19 @@ inline Grid GridWith(const std::vector<Pattern>& patterns) {
     return grid;
 }
 
+// The row of the catalogue's step for a slot with a single one.
+inline const Step& StepOfSlot(int slot) {
+    return *std::ranges::find(Steps(), slot, &Step::slot);
+}
+
 inline FirstFind SearchFirst(const Step& step, const Grid& grid) {
     FirstFind first;
-    step.search(Position(grid), step.args, first);
+    Solver(grid).Search(step, first);
     return first;
 }
 inline std::vector<Find> SearchAll(const Step& step, const Grid& grid) {
     AllFinds all;
-    step.search(Position(grid), step.args, all);
+    Solver(grid).Search(step, all);
     return all.finds;
 }
 

@@ -197,14 +197,16 @@ TEST(Apply, CountsAFindThatContradictsTheSolution) {
     Solver solver{Grid()};
     solver.SetSolution(PlainSolution());
     Find find;
+    find.kind = HintKind::BivalueGrave;  // the one kind that may be wrong
     find.removals.Add(At(0, 2));
-    const Step grave = StepOf(Nothing, 27, 6);  // the one slot that may be wrong
+    const Step grave = StepOf(Nothing, 27, 6);
     solver.Apply(grave, find);
     EXPECT_EQ(solver.UnsoundFinds(), 0);
     find.removals.Add(At(1, 2));
     solver.Apply(grave, find);
     EXPECT_EQ(solver.UnsoundFinds(), 1);
     Find wrong;
+    wrong.kind = HintKind::BivalueGrave;
     wrong.placements.Add(At(3, 9));
     solver.Apply(grave, wrong);
     EXPECT_EQ(solver.UnsoundFinds(), 2);

@@ -18,7 +18,11 @@ struct Args {
     int length = 0;      // the longest chain allowed, in links
 };
 
+class Solver;
+
 using Search = void (*)(const Position& position, const Args& args, FindSink& sink);
+// The one step that is no pure search: it tries candidates out on copies of the solver's state.
+using Trial = void (*)(Solver& solver, FindSink& sink);
 using TextWriter = std::string (*)(const Find& find);
 
 // singles
@@ -41,5 +45,20 @@ std::string BoxLineHint(const Find& find);
 void NakedHidden(const Position& position, const Args& args, FindSink& sink);
 std::string SubsetLog(const Find& find);
 std::string SubsetHint(const Find& find);
+
+// fish
+void XWing(const Position& position, const Args& args, FindSink& sink);
+std::string XWingLog(const Find& find);
+std::string XWingHint(const Find& find);
+
+// the universal grave
+void BUG(const Position& position, const Args& args, FindSink& sink);
+std::string BUGLog(const Find& find);
+std::string BUGHint(const Find& find);
+
+// bifurcation
+void Bifurcation(Solver& solver, FindSink& sink);
+std::string BifurcationLog(const Find& find);
+std::string BifurcationHint(const Find& find);
 
 }  // namespace vemo

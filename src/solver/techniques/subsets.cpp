@@ -2,36 +2,12 @@
 #include <array>
 #include <span>
 
+#include "solver/techniques/combinations.h"
 #include "solver/techniques/families.h"
 #include "solver/text.h"
 
 namespace vemo {
 namespace {
-
-// A unit seen from either side: for a naked subset nine cells with their digits (bit d), for a
-// hidden one nine digits with their cells (bit k for the k-th cell).
-using Members = std::array<unsigned, 9>;
-
-// Offers every choice of `size` members, each with at least one bit, that have exactly `size` bits
-// between them; in lexicographic order. `visit(chosen, bits)` answers whether to go on, with bit m
-// of `chosen` for member m.
-template <typename Visit>
-bool ForEachSubset(const Members& members, int size, Visit visit, int first = 0,
-                   unsigned chosen = 0, unsigned bits = 0, int count = 0) {
-    if (count == size) {
-        return BitCount(bits) != size || visit(chosen, bits);
-    }
-    for (int m = first; m <= 9 - (size - count); ++m) {
-        const unsigned own = members[static_cast<std::size_t>(m)];
-        if (own == 0 || BitCount(bits | own) > size) {
-            continue;
-        }
-        if (!ForEachSubset(members, size, visit, m + 1, chosen | 1u << m, bits | own, count + 1)) {
-            return false;
-        }
-    }
-    return true;
-}
 
 // 1..4 naked pair to quint, 5 and 6 hidden pair and triple: the order of the titles.
 int VariantOf(const Args& args) {

@@ -1,0 +1,77 @@
+// Bifurcation: trying a candidate out, the last resort of the ladder.
+#include "solver/solver.h"
+#include "solver/techniques/families.h"
+#include "solver/text.h"
+
+namespace vemo {
+namespace {
+
+std::string AtCell(int digit, int cell) {
+    return std::to_string(digit) + " at cell " + CellName(cell);
+}
+
+CellSet BivalueCells(const Grid& grid) {
+    CellSet cells;
+    for (int cell : grid.EmptyCells()) {
+        if (BitCount(grid.MarksAt(cell)) == 2) {
+            cells.Add(cell);
+        }
+    }
+    return cells;
+}
+
+// Runs the ladder on a copy with the digit placed. Answers whether a single filled the grid.
+bool BIFSolveSudoku(Solver& solver, int digit, int cell) {
+    Solver trial = solver.BeginTrial(digit, cell);
+    const Ladder ladder = TrialLadder();
+    PassResult result = PassResult::Changed;
+    while (result == PassResult::Changed) {
+        result = trial.Pass(ladder);
+    }
+    if (result == PassResult::DeadEnd) {
+        solver.Log("Current Bifurcation attempt failed due to empty cell");
+    } else if (result == PassResult::Nothing) {
+        solver.Log("Current Bifurcation attempt failed: more than one Bifurcation needed");
+    }
+    solver.KeepLeftover(trial);
+    return result == PassResult::Solved;
+}
+
+}  // namespace
+
+// A candidate of a bivalue cell that leads to the solution by the rest of the ladder alone is true.
+// A trial that fails proves nothing and takes nothing away. By digit, then cell.
+void Bifurcation(Solver& solver, FindSink& sink) {
+    const Grid before = solver.State().Cells();
+    const CellSet bivalue = BivalueCells(before);
+    for (int digit = 1; digit <= kDigits; ++digit) {
+        for (int cell : bivalue& before.Candidates(digit)) {
+            solver.Log("");
+            solver.Log("Bifurcation attempt: placed candidate " + AtCell(digit, cell));
+            if (BIFSolveSudoku(solver, digit, cell)) {
+                Find find;
+                find.kind = HintKind::Bifurcation;
+                find.AddCell(cell);
+                find.AddDigit(digit);
+                find.placements.Add(At(cell, digit));
+                if (!sink.Offer(find)) {
+                    return;
+                }
+            }
+            if (solver.IsStopped()) {
+                return;
+            }
+        }
+    }
+}
+
+std::string BifurcationLog(const Find& find) {
+    return "Bifurcation placed candidate " + AtCell(find.digits[0], find.cells[0]);
+}
+
+std::string BifurcationHint(const Find& find) {
+    return "BIFURCATION: Since placing number " + AtCell(find.digits[0], find.cells[0]) +
+           " leads to the solution, it must be there";
+}
+
+}  // namespace vemo
