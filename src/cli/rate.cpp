@@ -1,9 +1,8 @@
 // vemosud rate: the level of a puzzle by the hardest step that it needs.
-#include <optional>
-
 #include "cli/answers.h"
 #include "cli/commands.h"
 #include "cli/json.h"
+#include "cli/ladder_options.h"
 #include "cli/line_loop.h"
 #include "model/levels.h"
 #include "solver/brute_force.h"
@@ -14,7 +13,7 @@ namespace vemo {
 namespace {
 
 constexpr Option kLogOption = {"--log", "", "write the solve log's lines after each puzzle"};
-constexpr Option kOptions[] = {kLogOption, kJsonlOption, kQuietOption};
+constexpr Option kOptions[] = {kOrderOption, kOffOption, kLogOption, kJsonlOption, kQuietOption};
 
 std::string Notes() {
     return "One line a puzzle: puzzle TAB level number TAB level name TAB hardest technique\n"
@@ -23,7 +22,7 @@ std::string Notes() {
            "\"line\", \"puzzle\", \"level\", \"name\", \"hardest\", \"steps\", and with --log "
            "\"log\".\n"
            "\n" +
-           std::string(kPuzzleNotes).append(kListNotes);
+           std::string(kLadderNotes).append("\n").append(kPuzzleNotes).append(kListNotes);
 }
 
 struct Rating {
@@ -86,13 +85,16 @@ std::string AsJson(long number, const std::string& puzzle, const Rating& rating,
 CommandResult RunRate(const Arguments& arguments, Streams& streams) {
     const bool isJson = arguments.Has(kJsonlOption.name);
     const Logging logging = arguments.Has(kLogOption.name) ? Logging::On : Logging::Off;
-    const Ladder ladder = FixedLadder();
+    const ChosenLadder chosen = ChooseLadder(arguments, streams);
+    if (chosen.refusal.code != ExitCode::Fine) {
+        return chosen.refusal;
+    }
     return {AnswerEachLine(arguments, streams, [&](const InputLine& line) -> Answer {
         const PuzzleLine read = ReadPuzzleLine(line.text);
         if (!read.IsPuzzle()) {
             return Refusal(read.error);
         }
-        const Rating rating = Rate(read.clues, ladder, logging);
+        const Rating rating = Rate(read.clues, chosen.ladder, logging);
         const std::string puzzle = WriteGrid81(read.clues);
         Answer answer;
         answer.text =
@@ -111,7 +113,7 @@ CommandResult RunRate(const Arguments& arguments, Streams& streams) {
 Command RateCommand() {
     return {"rate",
             Operands::OneFile,
-            "[--log] [--jsonl] [--quiet]",
+            "[--order FILE] [--off SLOT] [--log] [--jsonl] [--quiet]",
             "Rates each puzzle by the hardest step that it needs",
             kOptions,
             Notes,

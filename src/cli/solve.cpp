@@ -9,19 +9,22 @@
 namespace vemo {
 namespace {
 
-constexpr Option kOptions[] = {kJsonlOption, kQuietOption};
+constexpr Option kReportOption = {"--report", "", "give the answer as a sentence"};
+constexpr Option kOptions[] = {kReportOption, kJsonlOption, kQuietOption};
 
 std::string Notes() {
     return "One line a puzzle: puzzle TAB unique, none or multiple TAB solution, which is\n"
-           "empty unless there is exactly one. With --jsonl the fields \"line\", \"puzzle\",\n"
-           "\"result\", \"solution\".\n"
+           "empty unless there is exactly one. With --report the middle field is a sentence:\n"
+           "This Sudoku has one unique solution, ... no solution, ... more than one solution.\n"
+           "With --jsonl the fields \"line\", \"puzzle\", \"result\", \"solution\".\n"
            "\n" +
            std::string(kPuzzleNotes).append(kListNotes);
 }
 
 CommandResult Solve(const Arguments& arguments, Streams& streams) {
     const bool isJson = arguments.Has(kJsonlOption.name);
-    return {AnswerEachLine(arguments, streams, [isJson](const InputLine& line) -> Answer {
+    const bool isReport = arguments.Has(kReportOption.name);
+    return {AnswerEachLine(arguments, streams, [=](const InputLine& line) -> Answer {
         const PuzzleLine read = ReadPuzzleLine(line.text);
         if (!read.IsPuzzle()) {
             return Refusal(read.error);
@@ -29,7 +32,7 @@ CommandResult Solve(const Arguments& arguments, Streams& streams) {
         const BruteForceResult result = BruteForceSolve(read.clues);
         const std::string puzzle = WriteGrid81(read.clues);
         const std::string solution = result.IsUnique() ? WriteGrid81(result.solution) : "";
-        const std::string_view word = SolutionCountWord(result);
+        const std::string_view word = isReport ? ReportOf(result).text : SolutionCountWord(result);
         const bool isFaulty = !result.IsUnique();
         if (isJson) {
             JsonObject object;
@@ -46,7 +49,7 @@ CommandResult Solve(const Arguments& arguments, Streams& streams) {
 Command SolveCommand() {
     return {"solve",
             Operands::OneFile,
-            "[--jsonl] [--quiet]",
+            "[--report] [--jsonl] [--quiet]",
             "Counts the solutions of each puzzle and writes the one",
             kOptions,
             Notes,

@@ -2,6 +2,7 @@
 #include "game/entry.h"
 
 #include "game/hints.h"
+#include "game/maker.h"
 #include "game/pencilmarks.h"
 #include "game/play_levels.h"
 #include "solver/catalogue.h"
@@ -113,6 +114,10 @@ bool IsBrushOrLinkMode(const Stage& stage) {
 }
 
 void ClickBoard(Stage& stage, int cell, int digit, MouseButton button) {
+    if (stage.session.IsMaking()) {
+        ClickClue(stage, cell, digit, button);
+        return;
+    }
     if (!IsBoardOn(stage)) {
         return;
     }
@@ -154,6 +159,10 @@ void ToggleDigitFilter(Stage& stage, int digit) {
 }
 
 void AssignBySelection(Stage& stage, int digit) {
+    if (stage.session.IsMaking()) {
+        TypeClue(stage, digit);
+        return;
+    }
     if (!CanType(stage)) {
         return;
     }
@@ -184,7 +193,7 @@ void ToggleMarkBySelection(Stage& stage, int digit) {
 }
 
 void MoveSelectionBy(Stage& stage, Direction direction, Jump jump) {
-    if (!IsBoardOn(stage)) {
+    if (!IsBoardOn(stage) && !stage.session.IsMaking()) {
         return;
     }
     Session& session = stage.session;
@@ -216,6 +225,10 @@ void RedoStep(Stage& stage) {
 
 void ResetCell(Stage& stage) {
     Session& session = stage.session;
+    if (session.IsMaking()) {
+        EmptyClue(stage);
+        return;
+    }
     const int cell = session.selectedCell;
     if (!IsBoardOn(stage) || cell == kNoCell || session.grid.IsGiven(cell)) {
         return;

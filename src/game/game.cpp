@@ -1,8 +1,10 @@
 // The game as its window sees it.
 #include "game/game.h"
 
+#include "game/autosolve.h"
 #include "game/entry.h"
 #include "game/hints.h"
+#include "game/maker.h"
 #include "game/menus.h"
 #include "game/pencilmarks.h"
 #include "game/play_levels.h"
@@ -141,6 +143,14 @@ void Game::CommandPauseClick() {
     });
 }
 
+void Game::SudTekstChange(const std::string& text) {
+    Handle([&](Stage& stage) { ChangeSudTekst(stage, text); });
+}
+
+void Game::SudTekstDrop(const std::vector<std::filesystem::path>& paths) {
+    Handle([&](Stage& stage) { DropOnSudTekst(stage, paths); });
+}
+
 void Game::MoveSelection(Direction direction, Jump jump) {
     Handle([&](Stage& stage) { MoveSelectionBy(stage, direction, jump); });
 }
@@ -184,6 +194,14 @@ void Game::mnuSudokuSave() {
     Handle(SaveCommand);
 }
 
+void Game::mnuSudokuMake() {
+    Handle(MakeSudoku);
+}
+
+void Game::mnuSudokuValidate() {
+    Handle(ValidateSudoku);
+}
+
 void Game::mnuSudokuExit() {
     if (FormQueryUnload()) {
         stage_.view.Close();
@@ -220,6 +238,14 @@ void Game::mnuSolveShowMe() {
 
 void Game::mnuSolveSolution() {
     Handle(ShowSolution);
+}
+
+void Game::mnuSolveAutoSolve() {
+    Handle(AutoSolve);
+}
+
+void Game::mnuSolveScan() {
+    Handle(Scan);
 }
 
 void Game::mnuSolveStop() {

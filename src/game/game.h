@@ -21,6 +21,8 @@ class Game {
     const Options& CurrentOptions() const { return stage_.options; }
     const Colors& CurrentColors() const { return stage_.colors; }
     const Session& CurrentSession() const { return stage_.session; }
+    // The solve log's text, which only ever grows.
+    const std::string& SolveLogText() const { return stage_.log.Text(); }
 
     // The window.
     void FormLoad();
@@ -41,6 +43,10 @@ class Game {
     void CommandApplyClick();
     void CommandPauseClick();
 
+    // The text box for a puzzle of one's own: its text was changed, files were dropped on it.
+    void SudTekstChange(const std::string& text);
+    void SudTekstDrop(const std::vector<std::filesystem::path>& paths);
+
     // The keyboard.
     void MoveSelection(Direction direction, Jump jump);
     void KeyDigit(int digit);  // assigns to the selected cell
@@ -54,6 +60,8 @@ class Game {
     void mnuSudokuNext();
     void mnuSudokuOpen();
     void mnuSudokuSave();
+    void mnuSudokuMake();
+    void mnuSudokuValidate();
     void mnuSudokuExit();
     void mnuLevelNr(int level);
     void mnuSolveRestart();
@@ -63,6 +71,8 @@ class Game {
     void mnuSolveHint();
     void mnuSolveShowMe();
     void mnuSolveSolution();
+    void mnuSolveAutoSolve();
+    void mnuSolveScan();
     void mnuSolveStop();
     void mnuPencilmarksMode();
     void mnuPencilmarksOff();

@@ -5,7 +5,6 @@
 #include "game/pencilmarks.h"
 #include "game/play_levels.h"
 #include "game/simple_hints.h"
-#include "solver/solver.h"
 
 namespace vemo {
 namespace {
@@ -13,31 +12,6 @@ namespace {
 constexpr int kReportPenalty = 10;
 constexpr int kShowMePenalty = 20;
 constexpr const char* kSafeCellText = "A candidate can savely be assigned to the colored cell";
-
-// While a scan runs the board ignores clicks; Stop and the clock stay alive.
-class BusyScan {
-  public:
-    explicit BusyScan(Stage& stage) : session_(stage.session) {
-        session_.isFunctionBusy = true;
-        session_.isStopRequested = false;
-    }
-    ~BusyScan() { session_.isFunctionBusy = false; }
-    BusyScan(const BusyScan&) = delete;
-    BusyScan& operator=(const BusyScan&) = delete;
-
-  private:
-    Session& session_;
-};
-
-// Before each scan: its status text, and a chance for the window and for Stop.
-Solver::StepWatcher ScanWatcher(Stage& stage) {
-    return [&stage](const Step& step) {
-        stage.session.textHint = step.statusText;
-        stage.show();
-        stage.view.Yield();
-        return !stage.session.isStopRequested;
-    };
-}
 
 void Report(Stage& stage, const std::string& text) {
     Speel(stage, Sound::Error);
@@ -72,15 +46,6 @@ void GiveSimpleHint(Stage& stage) {
     Penalty(stage, hint->penalty);
 }
 
-// `SchrijfHint`, `ShowHint` and the colours of a find.
-void ShowFind(Stage& stage, const Find& find) {
-    Session& session = stage.session;
-    session.hintCaption = "Hint - " + std::string(HintTitle(find));
-    session.textHint = HintText(find);
-    session.hintColors.Show(find);
-    session.hint = find;
-}
-
 void GiveTechniqueHint(Stage& stage) {
     Session& session = stage.session;
     Solver solver(session.grid);
@@ -103,16 +68,19 @@ void GiveTechniqueHint(Stage& stage) {
     Penalty(stage, solver.LastStep()->penalty);
 }
 
-bool ShowHiddenMarks(Stage& stage) {
-    if (stage.options.pencilmarks) {
-        return true;
+void ColorStaleMark(Session& session, const StaleMark& stale, Reporter reporter) {
+    HintColors& colors = session.hintColors;
+    colors.ZetHintVak(stale.placedCell);
+    if (reporter == Reporter::Hint) {
+        colors.ZetAttackedCell(stale.markedCell, stale.digit);
+        return;
     }
-    if (!AskYesNo(stage, "Hidden pencilmarks detected",
-                  "All pencilmarks must be visible to make hints available. Make them visible ?")) {
-        return false;
+    colors.ZetHintRij(CellRow(stale.placedCell));
+    colors.ZetHintKolom(CellColumn(stale.placedCell));
+    colors.ZetHintBlok(CellBox(stale.placedCell));
+    for (int cell : Peers(stale.placedCell) & session.grid.Candidates(stale.digit)) {
+        colors.ZetAttackedCell(cell, stale.digit);
     }
-    TogglePencilmarksMode(stage);
-    return true;
 }
 
 }  // namespace
@@ -125,7 +93,35 @@ void DropHint(Stage& stage) {
     session.showMe.reset();
 }
 
-bool ReportEntries(Stage& stage) {
+Solver::StepWatcher ScanWatcher(Stage& stage) {
+    return [&stage](const Step& step) {
+        stage.session.textHint = step.statusText;
+        stage.show();
+        stage.view.Yield();
+        return !stage.session.isStopRequested;
+    };
+}
+
+bool ShowHiddenMarks(Stage& stage, const char* question) {
+    if (stage.options.pencilmarks) {
+        return true;
+    }
+    if (!AskYesNo(stage, "Hidden pencilmarks detected", question)) {
+        return false;
+    }
+    TogglePencilmarksMode(stage);
+    return true;
+}
+
+void ShowFind(Stage& stage, const Find& find) {
+    Session& session = stage.session;
+    session.hintCaption = "Hint - " + std::string(HintTitle(find));
+    session.textHint = HintText(find);
+    session.hintColors.Show(find);
+    session.hint = find;
+}
+
+bool ReportEntries(Stage& stage, Reporter reporter) {
     Session& session = stage.session;
     const Digits& solution = session.puzzle.solution;
     if (const std::optional<int> cell = FindBadSolvedCell(session.grid, solution)) {
@@ -138,13 +134,13 @@ bool ReportEntries(Stage& stage) {
     if (const std::optional<int> cell = FindMissingCandidate(session.grid, solution)) {
         DropHint(stage);
         session.hintColors.ZetHintVak(*cell);
-        Report(stage, MissingCandidateText(*cell));
+        const char* advice = reporter == Reporter::Hint ? "" : " - Use [Undo] or [Reset Cell]";
+        Report(stage, MissingCandidateText(*cell) + advice);
         return true;
     }
     if (const std::optional<StaleMark> stale = FindStaleMark(session.grid)) {
         DropHint(stage);
-        session.hintColors.ZetHintVak(stale->placedCell);
-        session.hintColors.ZetAttackedCell(stale->markedCell, stale->digit);
+        ColorStaleMark(session, *stale, reporter);
         Report(stage, StaleMarkText(*stale));
         return true;
     }
@@ -152,7 +148,9 @@ bool ReportEntries(Stage& stage) {
 }
 
 void GiveHint(Stage& stage) {
-    if (!ShowHiddenMarks(stage) || ReportEntries(stage)) {
+    const char* question =
+        "All pencilmarks must be visible to make hints available. Make them visible ?";
+    if (!ShowHiddenMarks(stage, question) || ReportEntries(stage, Reporter::Hint)) {
         return;
     }
     DropHint(stage);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cassert>
 
+#include "game/autosolve.h"
 #include "game/entry.h"
 #include "game/game.h"
 #include "game/play_levels.h"
@@ -71,8 +72,8 @@ constexpr MenuRow kRows[] = {
     {SolveSolution, kSolve, "", "&Solution", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSolveSolution>},
     {SolveManager, kSolve, "", "Solve &Tech Manager...", "", Kind::Command, kBegins, kNotYet, nullptr},
     {SolveLog, kSolve, "", "&Log...", "", Kind::Command, kGoesOn, kNotYet, nullptr},
-    {SolveAutoSolve, kSolve, "", "&Autosolve", "", Kind::Command, kBegins, kNotYet, nullptr},
-    {SolveScan, kSolve, "", "Sca&n...", "", Kind::Command, kGoesOn, kNotYet, nullptr},
+    {SolveAutoSolve, kSolve, "", "&Autosolve", "", Kind::Command, kBegins, "", Call<&Game::mnuSolveAutoSolve>},
+    {SolveScan, kSolve, "", "Sca&n...", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSolveScan>},
     {SolveStop, kSolve, "", "Sto&p Scanning", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSolveStop>},
     {PencilmarksMode, kOptions, "", "&Auto Pencilmarks", "", Kind::Check, kGoesOn, "", Call<&Game::mnuPencilmarksMode>},
     {PencilmarksOff, kOptions, "", "Pencilmarks off in &first 3 levels", "", Kind::Check, kGoesOn, "", Call<&Game::mnuPencilmarksOff>},
@@ -138,12 +139,35 @@ bool IsTicked(CommandId id, const Stage& stage) {
     }
 }
 
+bool IsOnWhileBusy(CommandId id) {
+    return id == SolveStop || id == SolveLog;
+}
+
+// What would lose the clues that are being made, or needs a puzzle in play.
+bool IsOffWhileMaking(CommandId id) {
+    switch (id) {
+    case SudokuNext:
+    case SudokuOpen:
+    case SudokuSave:
+    case SudokuMake:
+    case SolveScan:
+        return true;
+    default:
+        return (id >= Level1 && id <= Level9) || (id >= SolveRestart && id <= SolveSolution);
+    }
+}
+
 // Without a long function running.
 bool IsAvailable(CommandId id, const Stage& stage) {
     const Session& session = stage.session;
     const bool hasLevel = session.level != 0 || session.pendingLevel != 0;
     const bool canChange = IsBoardOn(stage);
+    if (session.IsMaking() && IsOffWhileMaking(id)) {
+        return false;
+    }
     switch (id) {
+    case SudokuValidate:
+        return session.IsMaking();
     case SudokuNext:
     case SudokuOpen:
         return hasLevel;
@@ -164,6 +188,10 @@ bool IsAvailable(CommandId id, const Stage& stage) {
         return canChange && session.showMe.has_value();
     case SolveSolution:
         return canChange;
+    case SolveAutoSolve:
+        return MayAutosolve(stage);
+    case SolveScan:
+        return MayScan(stage);
     case SolveStop:
         return false;
     case EraseSudokuTime:
@@ -190,7 +218,7 @@ std::array<CommandView, kCommands> CommandStates(const Stage& stage) {
     std::array<CommandView, kCommands> states;
     for (const MenuRow& row : kRows) {
         const bool isAvailable =
-            stage.session.IsBusy() ? row.id == SolveStop : IsAvailable(row.id, stage);
+            stage.session.IsBusy() ? IsOnWhileBusy(row.id) : IsAvailable(row.id, stage);
         states[static_cast<std::size_t>(row.id)] = {row.handler != nullptr && isAvailable,
                                                     IsTicked(row.id, stage)};
     }

@@ -20,6 +20,9 @@ Marks SimpleMarks(const Session& session, int cell) {
 
 Marks ShownMarks(const Stage& stage, int cell) {
     const Session& session = stage.session;
+    if (session.IsMaking()) {
+        return session.grid.MarksAt(cell);
+    }
     if (session.phase == PlayPhase::NoPuzzle || !stage.options.pencilmarks) {
         return 0;
     }

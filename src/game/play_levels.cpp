@@ -2,7 +2,6 @@
 #include "game/play_levels.h"
 
 #include <algorithm>
-#include <charconv>
 #include <utility>
 
 #include "game/hints.h"
@@ -13,29 +12,9 @@ namespace {
 
 constexpr const char* kCannotOpen = "Can't open sudoku";
 
-void TellNoSudokus(Stage& stage, int level) {
-    stage.view.Beep();
-    Tell(stage, kCannotOpen, "No " + std::string(LevelName(level)) + " sudokus found to open",
-         BoxIcon::Warning);
-}
-
 void TellDamaged(Stage& stage, int number) {
     Tell(stage, kCannotOpen,
          "Sudoku number " + std::to_string(number) + " of this level is damaged", BoxIcon::Warning);
-}
-
-// The level whose puzzles Next and Open speak of: the one chosen during play, if any.
-int TargetLevel(const Session& session) {
-    return session.pendingLevel != 0 ? session.pendingLevel : session.level;
-}
-
-void AdoptPendingLevel(Stage& stage) {
-    Session& session = stage.session;
-    const int chosen = std::exchange(session.pendingLevel, 0);
-    if (chosen != 0 && chosen != session.level) {
-        session.level = chosen;
-        PrepareLevel(stage);
-    }
 }
 
 // Memory only: what was saved is still offered at the next start.
@@ -139,12 +118,6 @@ void AutoWisProgress(Stage& stage) {
     }
 }
 
-void WriteStatistics(Stage& stage) {
-    if (stage.files.WriteStatistics(stage.session.level, stage.session.statistics)) {
-        TellWriteFailed(stage);
-    }
-}
-
 // Changes the times of a level in its file and in memory alike; which puzzle was opened last and
 // whether it is offered stays as each of the two has it.
 void ForgetTimes(LevelStatistics& statistics, const LevelStatistics& changed) {
@@ -155,26 +128,41 @@ void ForgetTimes(LevelStatistics& statistics, const LevelStatistics& changed) {
     statistics.average = changed.average;
 }
 
-bool IsNumberOf(const std::string& text, int count, int& number) {
-    const char* end = text.data() + text.size();
-    const auto [stopped, error] = std::from_chars(text.data(), end, number);
-    return error == std::errc() && stopped == end && number >= 1 && number <= count;
-}
-
-std::string Trimmed(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(" \t");
-    return first == std::string::npos
-               ? std::string()
-               : text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 }  // namespace
+
+int TargetLevel(const Session& session) {
+    return session.pendingLevel != 0 ? session.pendingLevel : session.level;
+}
+
+void TellNoSudokus(Stage& stage, int level) {
+    stage.view.Beep();
+    Tell(stage, kCannotOpen, "No " + std::string(LevelName(level)) + " sudokus found to open",
+         BoxIcon::Warning);
+}
 
 void PrepareLevel(Stage& stage) {
     stage.session.statistics = stage.files.ReadStatistics(stage.session.level);
 }
 
+void AdoptPendingLevel(Stage& stage) {
+    Session& session = stage.session;
+    const int chosen = std::exchange(session.pendingLevel, 0);
+    if (chosen != 0 && chosen != session.level) {
+        session.level = chosen;
+        PrepareLevel(stage);
+    }
+}
+
+void WriteStatistics(Stage& stage) {
+    if (stage.files.WriteStatistics(stage.session.level, stage.session.statistics)) {
+        TellWriteFailed(stage);
+    }
+}
+
 void ChooseLevel(Stage& stage, int level) {
+    if (stage.session.IsMaking()) {
+        return;
+    }
     Session& session = stage.session;
     session.pendingLevel = level;
     if (session.phase == PlayPhase::Finished || session.phase == PlayPhase::SolutionShown) {
@@ -193,6 +181,9 @@ void ChooseLevel(Stage& stage, int level) {
 }
 
 void NextPuzzle(Stage& stage) {
+    if (stage.session.IsMaking()) {
+        return;
+    }
     const int level = TargetLevel(stage.session);
     const int count = stage.files.PuzzleCount(level);
     if (count == 0) {
@@ -218,24 +209,25 @@ void NextPuzzle(Stage& stage) {
 }
 
 void OpenByNumber(Stage& stage) {
+    if (stage.session.IsMaking()) {
+        return;
+    }
     const int level = TargetLevel(stage.session);
     const int count = stage.files.PuzzleCount(level);
     if (count == 0) {
         TellNoSudokus(stage, level);
         return;
     }
-    stage.show();
-    const std::optional<std::string> answer = stage.view.Ask(
-        {"Sudoku number", "Enter a value between 1 and " + std::to_string(count), ""});
-    const std::string text = Trimmed(answer.value_or(""));
-    if (text.empty()) {
+    const std::optional<int> number = AskNumber(
+        stage, {"Sudoku number", "Enter a value between 1 and " + std::to_string(count), ""}, 1,
+        count);
+    if (!number) {
         return;
     }
-    int number = 0;
-    if (!IsNumberOf(text, count, number)) {
+    if (*number == 0) {
         TellNoSudokus(stage, level);
-    } else if (!LoadSudoku(stage, level, number)) {
-        TellDamaged(stage, number);
+    } else if (!LoadSudoku(stage, level, *number)) {
+        TellDamaged(stage, *number);
     }
 }
 
@@ -249,7 +241,9 @@ bool LoadSudoku(Stage& stage, int level, int number) {
         session.pendingLevel = level;
     }
     AdoptPendingLevel(stage);
-    RememberOpened(stage, number);
+    if (!session.isScanBusy) {
+        RememberOpened(stage, number);
+    }
     ClearPlay(session);
     session.phase = PlayPhase::Playing;
     session.number = number;
@@ -366,6 +360,9 @@ void ZetOpgelost(Stage& stage) {
     }
     session.clock.Stop();
     session.phase = PlayPhase::Finished;
+    if (session.isScanBusy) {
+        return;
+    }
     if (stage.options.timeOn && !session.isAutosolved) {
         CountCompletion(stage, session.clock.Elapsed());
     }

@@ -8,18 +8,26 @@
 
 namespace vemo {
 
+// The level whose puzzles Next, Open and Scan speak of: the one chosen during play, if any.
+int TargetLevel(const Session& session);
 // Reads the statistics of the current level.
 void PrepareLevel(Stage& stage);
-void ChooseLevel(Stage& stage, int level);
+// The level chosen during play, if any, becomes the current one.
+void AdoptPendingLevel(Stage& stage);
+// Of the current level; a failure is told.
+void WriteStatistics(Stage& stage);
 
+// These three do nothing while a puzzle is made: its clues would be lost.
+void ChooseLevel(Stage& stage, int level);
 void NextPuzzle(Stage& stage);
 void OpenByNumber(Stage& stage);
 
 // Loads puzzle `number` of a level with its clues alone; the clock starts at 0:00. False where the
-// record is missing or damaged: the puzzle in play stays.
+// record is missing or damaged: the puzzle in play stays. A scan does not note it as the last one.
 bool LoadSudoku(Stage& stage, int level, int number);
 // Loads it with its saved play state, or from its clues where none belongs to it.
 bool OpenLastSudoku(Stage& stage, int level, int number);
+void TellNoSudokus(Stage& stage, int level);
 // Offers the level's unfinished puzzle, if there is one.
 void ContinueLastBusy(Stage& stage);
 
@@ -33,7 +41,8 @@ void SaveCommand(Stage& stage);
 // Stores level, statistics and play state; false, with a box, where a write failed.
 bool SaveProgress(Stage& stage);
 
-// After every step: a grid filled correctly is completed.
+// After every step: a grid filled correctly is completed. In a scan that leaves no trace but on the
+// board.
 void ZetOpgelost(Stage& stage);
 
 void EraseSudokuTime(Stage& stage);

@@ -78,6 +78,8 @@ struct Screen {
     std::array<std::array<MarkView, kDigits>, kCells> marks{};  // [cell][digit - 1]
     bool isBoardEnabled = false;
     bool isBoardCovered = false;  // the clock is stopped by the player: the board is hidden
+    bool isMaking = false;        // a puzzle is made: its text box is shown, on with the board
+    std::string sudTekst;         // the text of that box, UTF-8
     int selectedCell = kNoCell;
     std::vector<LinkView> links;
 

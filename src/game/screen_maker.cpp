@@ -115,7 +115,8 @@ void PutClock(const Stage& stage, Screen& screen) {
 void PutBrushes(const Session& session, Screen& screen) {
     screen.leftBrush = session.brushes.Armed(MouseButton::Left);
     screen.rightBrush = session.brushes.Armed(MouseButton::Right);
-    screen.isBrushPointer = session.brushes.IsArmed() && !session.links.IsOn();
+    screen.isBrushPointer =
+        session.brushes.IsArmed() && !session.links.IsOn() && !session.IsMaking();
 }
 
 }  // namespace
@@ -123,7 +124,9 @@ void PutBrushes(const Session& session, Screen& screen) {
 Screen MakeScreen(const Stage& stage) {
     const Session& session = stage.session;
     Screen screen;
-    screen.isBoardEnabled = IsBoardOn(stage) && !session.IsBusy();
+    screen.isBoardEnabled = (IsBoardOn(stage) || session.IsMaking()) && !session.IsBusy();
+    screen.isMaking = session.IsMaking();
+    screen.sudTekst = session.sudTekst;
     screen.isBoardCovered = IsCovered(session);
     if (screen.isBoardCovered) {
         screen.textHint = kClockIsStopped;

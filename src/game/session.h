@@ -20,6 +20,7 @@ enum class PlayPhase : std::uint8_t {
     Playing,
     Finished,       // completed; the board is off until another puzzle is opened
     SolutionShown,  // by the command Solution; only Restart goes on
+    Making,         // the player puts the clues of a puzzle of one's own into the empty grid
 };
 
 // The pointer is over no mark: cell * 9 + digit - 1 otherwise.
@@ -46,6 +47,10 @@ struct Session {
     Brushes brushes;
     Links links;
 
+    // While a puzzle is made: the text of the box for it, which the grid's clues follow.
+    std::string sudTekst;
+    bool isReadingRefused = false;  // the text is read by position though it looks like a grid
+
     HintColors hintColors;
     std::optional<Find> hint;  // the hint on display, while it can be applied
     std::string hintCaption;   // empty: no hint on display
@@ -60,6 +65,7 @@ struct Session {
 
     bool IsBusy() const { return isFunctionBusy || isScanBusy; }
     bool IsPlaying() const { return phase == PlayPhase::Playing; }
+    bool IsMaking() const { return phase == PlayPhase::Making; }
     bool IsFull() const { return !grid.EmptyCells().Any(); }
 };
 

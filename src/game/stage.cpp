@@ -1,9 +1,21 @@
 // What the parts of the game share.
 #include "game/stage.h"
 
+#include <charconv>
+
 #include "model/levels.h"
 
 namespace vemo {
+namespace {
+
+std::string Trimmed(const std::string& text) {
+    const std::size_t first = text.find_first_not_of(" \t");
+    return first == std::string::npos
+               ? std::string()
+               : text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+}  // namespace
 
 Stage::Stage(const Platform& system, View& frontEnd)
     : settings(system.settings),
@@ -11,6 +23,7 @@ Stage::Stage(const Platform& system, View& frontEnd)
       sounds(system.sounds),
       clock(system.clock),
       view(frontEnd),
+      anyFiles(system.files),
       files(system.files, system.folders.LocalApplicationData() / kApplicationName),
       colors(BuiltInColors()) {}
 
@@ -32,8 +45,11 @@ void FlipOption(Stage& stage, bool Options::*option) {
 }
 
 bool IsSimpleMode(const Stage& stage) {
-    return stage.options.pencilmarksOff && stage.session.level >= 1 &&
-           stage.session.level <= kLastSimpleLevel;
+    return IsSimpleLevel(stage, stage.session.level);
+}
+
+bool IsSimpleLevel(const Stage& stage, int level) {
+    return stage.options.pencilmarksOff && level >= 1 && level <= kLastSimpleLevel;
 }
 
 std::string HelpText() {
@@ -49,6 +65,19 @@ void Tell(Stage& stage, const std::string& title, const std::string& text, BoxIc
 bool AskYesNo(Stage& stage, const std::string& title, const std::string& text) {
     stage.show();
     return stage.view.ShowBox({title, text, BoxButtons::YesNo, BoxIcon::None}) == Answer::Yes;
+}
+
+std::optional<int> AskNumber(Stage& stage, const Question& question, int least, int most) {
+    stage.show();
+    const std::string text = Trimmed(stage.view.Ask(question).value_or(""));
+    if (text.empty()) {
+        return std::nullopt;
+    }
+    int number = 0;
+    const char* end = text.data() + text.size();
+    const auto [stopped, error] = std::from_chars(text.data(), end, number);
+    const bool isNumber = error == std::errc() && stopped == end;
+    return isNumber && number >= least && number <= most ? number : 0;
 }
 
 void TellWriteFailed(Stage& stage) {

@@ -6,6 +6,7 @@
 
 #include "game/options.h"
 #include "game/session.h"
+#include "game/solve_log.h"
 #include "game/view.h"
 #include "model/files.h"
 #include "platform/clock.h"
@@ -34,12 +35,14 @@ struct Stage {
     Sounds& sounds;
     Clock& clock;
     View& view;
+    Files& anyFiles;  // for files that are not the game's own
     RecordFiles files;
 
     Options options;
     Colors colors;
     TechniqueSettings techniques;
     Session session;
+    SolveLog log;
 
     // Makes the screen anew and has it painted; set by the game. Called before every box and every
     // yield, so that the player never looks at an old state.
@@ -70,6 +73,7 @@ void FlipOption(Stage& stage, bool Options::*option);
 
 // On levels 1..3 with "Pencilmarks off in first 3 levels": the simple display and simple hints.
 bool IsSimpleMode(const Stage& stage);
+bool IsSimpleLevel(const Stage& stage, int level);
 
 // The text of a puzzle just loaded or restarted.
 std::string HelpText();
@@ -79,6 +83,9 @@ void Tell(Stage& stage, const std::string& title, const std::string& text,
           BoxIcon icon = BoxIcon::None);
 // A box with Yes and No; true for Yes.
 bool AskYesNo(Stage& stage, const std::string& title, const std::string& text);
+// A box that asks for a whole number from `least`, which is positive, to `most`. 0 for any other
+// answer; nothing where the player cancels or leaves the line empty.
+std::optional<int> AskNumber(Stage& stage, const Question& question, int least, int most);
 
 // A file of the game could not be written.
 void TellWriteFailed(Stage& stage);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -38,6 +39,8 @@ class View {
 
     // Lets the window handle its events; events may reach the game meanwhile.
     virtual void Yield() = 0;
+    // Lets the window handle its events for so long, or until `isOver` says that it is enough.
+    virtual void Pause(int milliseconds, const std::function<bool()>& isOver) = 0;
     // The screen has changed.
     virtual void Refresh() = 0;
 

@@ -62,6 +62,10 @@ void RecordFiles::InstallShippedPuzzles(const std::filesystem::path& programFold
     }
 }
 
+bool RecordFiles::HasPuzzleFile(int level) {
+    return files_.Size(PuzzlePath(level)).has_value();
+}
+
 int RecordFiles::PuzzleCount(int level) {
     return static_cast<int>(files_.Size(PuzzlePath(level)).value_or(0) / kPuzzleRecordSize);
 }

@@ -30,6 +30,7 @@ class RecordFiles {
     // copied stays missing.
     void InstallShippedPuzzles(const std::filesystem::path& programFolder);
 
+    bool HasPuzzleFile(int level);
     // Whole records in the level's puzzle file; 0 where it is missing.
     int PuzzleCount(int level);
 

@@ -34,6 +34,7 @@ class DemoView final : public View {
         return question.suggestion;
     }
     void Yield() override {}
+    void Pause(int, const std::function<bool()>&) override {}
     void Refresh() override {
         if (window_ != nullptr) {
             window_->ShowScreen();

@@ -5,10 +5,12 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QEventLoop>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTimer>
 #include <QUrl>
 
 #include "qt/main_window.h"
@@ -23,6 +25,8 @@ namespace {
 // What a window manager may need beside a title: a bolder font, in percent, and its buttons.
 constexpr int kBoldTitle = 120;
 constexpr int kTitleButtons = 100;
+
+constexpr int kYieldMilliseconds = 15;
 
 struct BoxButton {
     QMessageBox::StandardButton button;
@@ -98,8 +102,22 @@ std::optional<std::string> WindowView::Ask(const Question& question) {
     return answer.toStdString();
 }
 
+// Long functions yield before every search, far more often than anybody can see or click.
 void WindowView::Yield() {
-    QCoreApplication::processEvents();
+    if (!sinceYield_.isValid() || sinceYield_.hasExpired(kYieldMilliseconds)) {
+        QCoreApplication::processEvents();
+        sinceYield_.start();
+    }
+}
+
+void WindowView::Pause(int milliseconds, const std::function<bool()>& isOver) {
+    QEventLoop loop;
+    bool hasRunOut = false;
+    // The timer's event ends the last wait.
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, [&hasRunOut] { hasRunOut = true; });
+    while (!hasRunOut && !isOver()) {
+        loop.processEvents(QEventLoop::WaitForMoreEvents);
+    }
 }
 
 void WindowView::Refresh() {

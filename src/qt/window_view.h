@@ -1,6 +1,8 @@
 // What the game asks of its window: boxes, yielding, leaving.
 #pragma once
 
+#include <QElapsedTimer>
+
 #include "game/view.h"
 
 namespace vemo {
@@ -18,6 +20,7 @@ class WindowView final : public View {
     Answer ShowBox(const Box& box) override;
     std::optional<std::string> Ask(const Question& question) override;
     void Yield() override;
+    void Pause(int milliseconds, const std::function<bool()>& isOver) override;
     void Refresh() override;
     void Beep() override;
     void OpenLink(const std::string& address) override;
@@ -28,6 +31,7 @@ class WindowView final : public View {
     void ShowWindow();
 
     MainWindow* window_ = nullptr;
+    QElapsedTimer sinceYield_;
     bool isClosed_ = false;
 };
 

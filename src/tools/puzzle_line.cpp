@@ -206,10 +206,12 @@ std::string WriteMarks(const Grid& grid) {
 
 }  // namespace
 
+std::string_view WithoutByteOrderMark(std::string_view text) {
+    return text.starts_with(kByteOrderMark) ? text.substr(kByteOrderMark.size()) : text;
+}
+
 std::string_view TrimLine(std::string_view line) {
-    if (line.starts_with(kByteOrderMark)) {
-        line.remove_prefix(kByteOrderMark.size());
-    }
+    line = WithoutByteOrderMark(line);
     // A TAB is no blank: behind it stands a field, though an empty one.
     line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
     line.remove_suffix(line.size() - (line.find_last_not_of(" \r") + 1));

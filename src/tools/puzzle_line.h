@@ -14,6 +14,9 @@
 
 namespace vemo {
 
+// The text without a UTF-8 byte-order mark in front.
+std::string_view WithoutByteOrderMark(std::string_view text);
+
 // The line without what its neighbours in a file may leave on it: a UTF-8 byte-order mark in
 // front, blanks around it, a carriage return behind it.
 std::string_view TrimLine(std::string_view line);

@@ -1,6 +1,7 @@
 // What each command answers.
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "cli/invoke.h"
+#include "cli/ladder_options.h"
 #include "model/files.h"
 #include "platform/plain_files.h"
 
@@ -67,6 +69,17 @@ TEST(Solve, CountsTheSolutionsOfEachPuzzle) {
                   kSolution + "\"}\n");
 }
 
+TEST(Solve, ReportsItsThreeAnswersInWords) {
+    ExpectRun({"solve", "--report", "-"}, kUnique + "\n" + kClash + "\n" + Ambiguous(),
+              ExitCode::FaultyLine,
+              kUnique + "\tThis Sudoku has one unique solution\t" + kSolution + "\n" + kClash +
+                  "\tThis Sudoku has no solution\t\n" + Ambiguous() +
+                  "\tThis Sudoku has more than one solution\t\n");
+    ExpectRun({"solve", "--report", "--jsonl", "-"}, kClash, ExitCode::FaultyLine,
+              R"({"line":1,"puzzle":")" + kClash +
+                  R"(","result":"This Sudoku has no solution","solution":""})" + "\n");
+}
+
 TEST(Rate, NamesLevelHardestTechniqueAndSteps) {
     const std::string fields = "\t1\tEasy\tHidden Single\t1\n";
     const std::string log = "Hidden Single 1 in box at cell A1";
@@ -91,6 +104,68 @@ TEST(Rate, TheCorpusHoldsTheLevelsThatItNames) {
         EXPECT_TRUE(number % 4 < 3 ? level == number % 4 + 1 : level > 3) << line;
     }
     EXPECT_EQ(number, 400);
+}
+
+// Line n+1 of the file is the position of slot n; some lines are replaced.
+std::string OrderFile(const std::vector<std::pair<std::size_t, std::string>>& replaced) {
+    const std::string name = testing::TempDir() + "vemo_order.txt";
+    std::ofstream file(name, std::ios::binary);
+    for (std::size_t slot = 0; slot < kSlots; ++slot) {
+        const auto line =
+            std::ranges::find(replaced, slot, [](const auto& at) { return at.first; });
+        file << (line == replaced.end() ? std::to_string(slot) : line->second) << "\r\n";
+    }
+    return name;
+}
+
+TEST(Rate, AnOrderAndSwitchesMakeTheLadder) {
+    std::ostringstream messages;
+    std::istringstream in;
+    Streams streams{in, messages, messages};
+    Arguments arguments;
+    arguments.options = {
+        {"--order", OrderFile({{8, "9"}, {9, "10"}, {10, "8"}})}, {"--off", "12"}, {"--off", "11"}};
+    const ChosenLadder chosen = ChooseLadder(arguments, streams);
+    std::vector<int> slots;
+    for (const LadderStep& at : chosen.ladder) {
+        EXPECT_EQ(at.mode, Mode::Apply);
+        if (at.step->slot >= kFirstMovableSlot && slots.size() < 4) {
+            slots.push_back(at.step->slot);
+        }
+    }
+    EXPECT_EQ(slots, (std::vector<int>{10, 8, 9, 13}));
+
+    // A puzzle that needs the last slot.
+    const std::string corpus = VEMO_TEST_DATA "/corpus.txt";
+    const std::string fixed = Invoke({"rate", corpus}).out;
+    EXPECT_EQ(Invoke({"rate", "--order", OrderFile({}), corpus}).out, fixed);
+    const Outcome without = Invoke({"rate", "--off=39", corpus});
+    EXPECT_EQ(without.code, ExitCode::Fine);
+    EXPECT_EQ(without.out.find("Bifurcation"), std::string::npos);
+    EXPECT_NE(without.out.find("\t9\tOutlaw\t"), std::string::npos);
+}
+
+TEST(Rate, AWrongOrderIsNamed) {
+    const std::string name = OrderFile({});
+    const struct {
+        std::vector<std::pair<std::size_t, std::string>> replaced;
+        const char* named;
+    } cases[] = {
+        {{{20, "2O"}}, "line 21 is no position from 0 to 39"},
+        {{{20, "40"}}, "line 21 is no position from 0 to 39"},
+        {{{20, "21"}}, "a position stands there twice"},
+        {{{7, "8"}, {8, "7"}}, "one of the slots 0 to 7 and 39 is moved"},
+        {{{30, "30\n31"}}, "forty lines are needed"},
+    };
+    for (const auto& [replaced, named] : cases) {
+        const Outcome result = Invoke({"rate", "--order", OrderFile(replaced), "-"}, kUnique);
+        EXPECT_EQ(result.code, ExitCode::Usage) << named;
+        EXPECT_NE(result.err.find(name + ": "), std::string::npos) << result.err;
+        EXPECT_NE(result.err.find(named), std::string::npos) << result.err;
+    }
+    const Outcome missing = Invoke({"rate", "--order", "no such file", "-"}, kUnique);
+    EXPECT_EQ(missing.code, ExitCode::InputOutput);
+    EXPECT_NE(missing.err.find("no such file cannot be read"), std::string::npos);
 }
 
 TEST(Hint, ExplainsTheNextStep) {

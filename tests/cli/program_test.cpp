@@ -25,6 +25,7 @@ TEST(Program, AWrongWordIsNamed) {
         {{"rate", "-", "more"}, "unexpected word more"},
         {{"rate", "--foo", "-"}, "unknown option --foo"},
         {{"rate", "--log=yes", "-"}, "--log takes no value: --log=yes"},
+        {{"rate", "--off", "7", "-"}, "--off is a slot from 8 to 39: 7"},
         {{"find", "-"}, "--technique TITLE or --slot N"},
         {{"find", "--slot", "3", "--technique", "X-Wing", "-"}, "not both"},
         {{"find", "-", "--slot"}, "--slot needs a value"},

@@ -60,12 +60,19 @@ class ScriptedView final : public View {
 
     Answer ShowBox(const Box& box) override { return Next(box.title, box.text).answer; }
     std::optional<std::string> Ask(const Question& question) override {
+        questions.push_back(question);
         return Next(question.title, question.prompt).reply;
     }
     void Yield() override {
         ++yields;
         if (onYield) {
             onYield();
+        }
+    }
+    void Pause(int milliseconds, const std::function<bool()>& isOver) override {
+        paused += milliseconds;
+        if (!isOver()) {
+            Yield();
         }
     }
     void Refresh() override {}
@@ -75,7 +82,9 @@ class ScriptedView final : public View {
 
     std::function<void()> onYield;
     int yields = 0;
+    int paused = 0;  // milliseconds
     int beeps = 0;
+    std::vector<Question> questions;  // all that were asked
     std::string link;
     bool isClosed = false;
 

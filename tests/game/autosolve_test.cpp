@@ -1,0 +1,436 @@
+// Autosolve, Scan, Stop and the solve log.
+#include "game/autosolve.h"
+
+#include "game/play_support.h"
+#include "solver/brute_force.h"
+#include "solver/solver.h"
+
+namespace vemo::test {
+namespace {
+
+// A1, A2 and B1 are open: three hidden singles, one box after the other.
+const std::vector<int> kOpen = {0, 1, 9};
+const std::string kStart = "\r\nStart Solving\r\n";
+const std::string kThreeSteps =
+    "Hidden Single 1 in box at cell A1\r\n"
+    "Hidden Single 2 in box at cell A2\r\n"
+    "Hidden Single 4 in box at cell B1\r\n";
+const std::string kSolved = "SUDOKU SOLVED\r\n";
+const std::string kNotSolved = "SUDOKU NOT SOLVED\r\n";
+const std::string kSolvedText = "Autosolve completed, sudoku solved !!!";
+const std::string kNotSolvedText =
+    "Autosolve completed, no more logical hints, you'll have to enable more techniques or guess "
+    "more than once...";
+const std::string kHintAtA2 =
+    "HIDDEN SINGLE: Since number 2 in the top left block appears only at cell A2, it must be there";
+const std::string kMarksQuestion =
+    "All pencilmarks must be visible to start the Autosolver, shall I make them visible ?";
+
+PuzzleRecord RecordOf(const Digits& clues) {
+    PuzzleRecord puzzle;
+    puzzle.clues = clues;
+    puzzle.solution = BruteForceSolve(clues).solution;
+    return puzzle;
+}
+
+// The first puzzle of the corpus that slots 3 to 7 do not solve.
+PuzzleRecord HardPuzzle() {
+    for (const Digits& clues : Corpus()) {
+        if (!PreSolve(Grid::FromClues(clues)).solved) {
+            return RecordOf(clues);
+        }
+    }
+    return {};
+}
+
+class AutosolveTest : public GameTest {
+  protected:
+    AutosolveTest() {
+        Ship({PuzzleWithOpen(kOpen), PuzzleWithOpen({0}), PuzzleWithOpen({0, 7})});
+        StartFirst();
+        game->mnuOptionsSounds();
+    }
+    // Another start with these techniques alone beside slots 3 to 7.
+    void StartWith(const std::vector<int>& slots) {
+        for (int slot = kFirstMovableSlot; slot < kSlots; ++slot) {
+            const bool isOn = std::ranges::find(slots, slot) != slots.end();
+            settings.Save("Technique", "OnOff" + std::to_string(slot), isOn ? "1" : "0");
+        }
+        StartAgain();
+    }
+    void StopAtYield(int number) {
+        view.yields = 0;
+        view.onYield = [this, number] {
+            if (view.yields == number) {
+                game->Run(CommandId::SolveStop);
+            }
+        };
+    }
+    int Digit(int cell) const { return Seen().cells[static_cast<std::size_t>(cell)].digit; }
+    int Seconds() const { return game->CurrentSession().clock.Elapsed(); }
+    const std::string& Log() const { return game->SolveLogText(); }
+    void ExpectRange(const std::string& count, const std::string& from, const std::string& to) {
+        view.ExpectQuestion("Scan 'from' number", "Enter a value between 1 and " + count, from);
+        view.ExpectQuestion("Scan 'to' number", "Enter a value between " + from + " and " + count,
+                            to);
+    }
+};
+
+TEST_F(AutosolveTest, EveryStepIsLoggedShownAndHeardAndNothingIsCounted) {
+    OpenFirst(5);
+    sounds.played.clear();
+    view.paused = 0;
+    clock.second += 100;
+    game->mnuSolveAutoSolve();
+    EXPECT_EQ(Log(), kStart + kThreeSteps + kSolved);
+    EXPECT_EQ(Seen().textHint, kSolvedText);
+    EXPECT_EQ(view.paused, 300);
+    EXPECT_EQ(sounds.played,
+              (std::vector<Sound>{Sound::Assign, Sound::Assign, Sound::Assign, Sound::Applause}));
+    EXPECT_EQ(Digit(9), 4);
+    EXPECT_FALSE(Seen().isBoardEnabled);
+    EXPECT_FALSE(Seen().Command(CommandId::SolveAutoSolve).isEnabled);
+    EXPECT_EQ(Records().ReadStatistics(5).solvedCount, 0);
+    EXPECT_TRUE(Records().ReadPuzzle(5, 1)->best.IsNone());
+
+    game->mnuSudokuNext();
+    game->mnuSolveAutoSolve();
+    EXPECT_EQ(Log(), kStart + kThreeSteps + kSolved + kStart + kThreeSteps.substr(0, 35) + kSolved)
+        << "the log goes on";
+}
+
+TEST_F(AutosolveTest, ChangedEntriesAreReportedFirst) {
+    files.WriteAt(Records().PuzzlePath(5), 0, Pack(PuzzleWithOpen(FirstTwoRows())));
+    OpenFirst(5);
+    Discard(8, 9);
+    game->mnuSolveAutoSolve();
+    EXPECT_EQ(Seen().textHint,
+              "The correct number is no longer shown as a possibility at cell A9 - Use [Undo] or "
+              "[Reset Cell]");
+    Assign(1, 5);
+    game->mnuSolveAutoSolve();
+    EXPECT_EQ(Seen().textHint, "Incorrect number (5) at cell A2 - Use [Undo] or [Reset Cell]");
+    EXPECT_TRUE(Seen().cells[1].isWrong);
+    EXPECT_EQ(Seconds(), 20);
+    EXPECT_EQ(sounds.played.back(), Sound::Error);
+    EXPECT_EQ(Log(), "");
+    EXPECT_FALSE(game->CurrentSession().isAutosolved);
+}
+
+TEST_F(AutosolveTest, HiddenMarksAreAskedAbout) {
+    OpenFirst(5);
+    game->mnuPencilmarksMode();
+    view.Expect("Hidden pencilmarks detected", kMarksQuestion, Answer::No);
+    game->mnuSolveAutoSolve();
+    EXPECT_EQ(Log(), "");
+    EXPECT_FALSE(game->CurrentSession().isAutosolved);
+    view.Expect("Hidden pencilmarks detected", kMarksQuestion, Answer::Yes);
+    game->mnuSolveAutoSolve();
+    EXPECT_TRUE(game->CurrentOptions().pencilmarks);
+    EXPECT_EQ(Seen().textHint, kSolvedText);
+}
+
+TEST_F(AutosolveTest, BrushLinkAndSimpleModeRefuseInSilence) {
+    OpenFirst(3);
+    const auto expectRefused = [this] {
+        EXPECT_FALSE(Seen().Command(CommandId::SolveAutoSolve).isEnabled);
+        EXPECT_FALSE(Seen().Command(CommandId::SolveScan).isEnabled);
+        game->mnuSolveAutoSolve();
+        game->mnuSolveScan();
+        EXPECT_EQ(Log(), "");
+    };
+    game->LabelColorMouseUp(2, MouseButton::Left);
+    expectRefused();
+    game->LabelColorMouseUp(2, MouseButton::Left);
+    game->CommandLinkClick();
+    expectRefused();
+    game->CommandLinkClick();
+    game->mnuPencilmarksOff();
+    expectRefused();
+    // A scan is one of the level chosen for later.
+    view.Expect("Changed level",
+                "Statusbar will be updated after completion of the current sudoku");
+    game->mnuLevelNr(4);
+    EXPECT_FALSE(Seen().Command(CommandId::SolveAutoSolve).isEnabled);
+    EXPECT_TRUE(Seen().Command(CommandId::SolveScan).isEnabled);
+}
+
+TEST_F(AutosolveTest, StopShowsTheNextStepInsteadOfTakingIt) {
+    OpenFirst(5);
+    Assign(9, 4);
+    // The third yield is that of the second pass; the second stands between the two steps.
+    for (int yield : {2, 3}) {
+        game->mnuSolveRestart();
+        StopAtYield(yield);
+        game->mnuSolveAutoSolve();
+        EXPECT_EQ(Digit(0), 1);
+        EXPECT_EQ(Digit(1), 0);
+        EXPECT_EQ(Seen().hintCaption, "Hint - Hidden single");
+        EXPECT_EQ(Seen().textHint, kHintAtA2);
+        EXPECT_TRUE(Seen().Command(CommandId::SolveAutoSolve).isEnabled);
+        EXPECT_FALSE(Seen().Command(CommandId::SolveStop).isEnabled);
+    }
+    const std::string once = kStart + kThreeSteps.substr(0, 35);
+    EXPECT_EQ(Log(), once + once);
+
+    // The hint can be applied, and taken back again.
+    game->KeyHint();
+    EXPECT_EQ(Digit(1), 2);
+    game->mnuSolveUndo();
+    EXPECT_EQ(Digit(1), 0);
+    game->mnuSolveRedo();
+    view.Expect("Sudoku Autosolved",
+                "Autosolve function is invoked at the current sudoku, therefore you cannot save "
+                "this sudoku !");
+    game->mnuSudokuSave();
+}
+
+TEST_F(AutosolveTest, StopInTheMiddleOfATrialEndsAtOnce) {
+    PuzzleRecord puzzle = HardPuzzle();
+    puzzle.clues = PreSolve(Grid::FromClues(puzzle.clues)).grid.AllDigits();
+    files.WriteAt(Records().PuzzlePath(5), 0, Pack(puzzle));
+    StartWith({39});
+    OpenFirst(5);
+    int atTrial = 0;
+    view.onYield = [&] {
+        const bool isAtTrial = Seen().textHint == "Scanning for Bifurcation - Please be patient";
+        atTrial += isAtTrial ? 1 : 0;
+        if (isAtTrial && atTrial == 2) {
+            game->Run(CommandId::SolveStop);
+        }
+    };
+    game->mnuSolveAutoSolve();
+    EXPECT_EQ(atTrial, 2);
+    EXPECT_EQ(Seen().textHint, "Autosolve stopped");
+    EXPECT_TRUE(Seen().isBoardEnabled);
+}
+
+TEST_F(AutosolveTest, ATechniqueThatHaltsShowsItsStepAndEndsTheRun) {
+    settings.Save("Technique", "Halt3", "1");
+    StartAgain();
+    OpenFirst(5);
+    game->mnuSolveAutoSolve();
+    EXPECT_EQ(Seen().hintCaption, "Hint - Hidden single");
+    EXPECT_EQ(Digit(0), 0);
+    EXPECT_EQ(Log(), kStart);
+    EXPECT_TRUE(game->CurrentSession().isAutosolved);
+    EXPECT_EQ(Seconds(), 0);
+    EXPECT_TRUE(Seen().canApply);
+    game->KeyHint();
+    EXPECT_EQ(Digit(0), 1);
+}
+
+TEST_F(AutosolveTest, TheFirstStepCutsWhatCouldBeRedone) {
+    OpenFirst(5);
+    Assign(9, 4);
+    game->mnuSolveUndo();
+    StopAtYield(1);
+    game->mnuSolveAutoSolve();
+    EXPECT_TRUE(Seen().Command(CommandId::SolveRedo).isEnabled);
+    StopAtYield(2);
+    game->mnuSolveAutoSolve();
+    EXPECT_EQ(Digit(0), 1);
+    EXPECT_FALSE(Seen().Command(CommandId::SolveRedo).isEnabled);
+}
+
+TEST_F(AutosolveTest, WithoutAStepItSaysSo) {
+    files.WriteAt(Records().PuzzlePath(5), 0, Pack(HardPuzzle()));
+    StartWith({});
+    OpenFirst(5);
+    game->mnuSolveHint();
+    game->mnuSolveAutoSolve();
+    EXPECT_EQ(Seen().hintCaption, "") << "the hint that was on display is gone";
+    EXPECT_EQ(Seen().textHint, kNotSolvedText);
+    EXPECT_TRUE(Log().ends_with(kNotSolved));
+    EXPECT_EQ(sounds.played.back(), Sound::Giggle);
+    EXPECT_TRUE(Seen().isBoardEnabled);
+}
+
+// Whatever runs, trials too, the window handles its events before each search.
+TEST_F(AutosolveTest, BetweenTwoYieldsAtMostOneStepOfTheLadderRuns) {
+    const PuzzleRecord puzzle = HardPuzzle();
+    files.WriteAt(Records().PuzzlePath(5), 0, Pack(puzzle));
+    StartWith({8, 39});
+    game->mnuLevelNr(5);
+    std::vector<std::string> searches;
+    Solver solver(Grid::FromClues(puzzle.clues));
+    solver.SetStepWatcher([&](const Step& step) {
+        searches.emplace_back(step.statusText);
+        return true;
+    });
+    ASSERT_TRUE(RunToTheEnd(solver, AutosolveLadder(ReadTechniqueSettings(settings))));
+    ASSERT_GT(std::ranges::count(searches, searches.back()), 10) << "there was a trial";
+
+    std::vector<std::string> yields;
+    view.onYield = [&] { yields.push_back(Seen().textHint); };
+    ExpectRange("3", "1", "1");
+    game->mnuSolveScan();
+    EXPECT_EQ(yields, searches);
+}
+
+TEST_F(AutosolveTest, AScanSolvesItsRangeAndLeavesNoTrace) {
+    OpenFirst(5);
+    Assign(0, 1);
+    game->mnuSudokuSave();
+    const LevelStatistics saved = Records().ReadStatistics(5);
+    const PlayState state = Records().ReadPlayState(5, 1);
+    sounds.played.clear();
+    view.paused = 0;
+    std::vector<std::string> numbers;
+    view.onYield = [&] {
+        if (numbers.empty() || numbers.back() != Seen().status[1]) {
+            numbers.push_back(Seen().status[1]);
+        }
+    };
+    ExpectRange("3", "1", "3");
+    game->mnuSolveScan();
+    EXPECT_EQ(view.questions.front().suggestion, "1");
+    EXPECT_EQ(numbers, (std::vector<std::string>{"Number: 1", "Number: 2", "Number: 3"}));
+    const std::string first = kStart + kThreeSteps + kSolved;
+    EXPECT_EQ(Log().substr(0, first.size()), first);
+    EXPECT_EQ(Seen().textHint, kSolvedText + "\nScan completed: 3 of 3 sudokus solved");
+    EXPECT_TRUE(sounds.played.empty());
+    EXPECT_EQ(view.paused, 0);
+    EXPECT_EQ(Records().ReadStatistics(5), saved);
+    EXPECT_EQ(Records().ReadPlayState(5, 1), state);
+    EXPECT_TRUE(game->CurrentSession().statistics.inProgress);
+
+    view.onYield = nullptr;
+    game->mnuSudokuNext();
+    EXPECT_EQ(Seen().status[1], "Number: 2") << "Next goes on from where the player was";
+}
+
+TEST_F(AutosolveTest, StopEndsTheWholeScanWhileTheGameIsBusy) {
+    game->mnuLevelNr(5);
+    view.onYield = [this] {
+        EXPECT_FALSE(Seen().isBoardEnabled);
+        EXPECT_FALSE(Seen().Command(CommandId::SudokuNext).isEnabled);
+        if (Seen().status[1] != "Number: 2") {
+            return;
+        }
+        view.onYield = nullptr;
+        Assign(0, 1);
+        game->mnuSudokuNext();
+        view.Expect("Function in progress",
+                    "Autosolve or Scan function busy, cannot quit Vemo Sudoku now.");
+        EXPECT_FALSE(game->FormQueryUnload());
+        game->Run(CommandId::SolveStop);
+    };
+    ExpectRange("3", "1", "3");
+    game->mnuSolveScan();
+    EXPECT_EQ(Seen().status[1], "Number: 2");
+    EXPECT_EQ(Digit(0), 0);
+    EXPECT_EQ(Seen().hintCaption, "Hint - Hidden single");
+    EXPECT_TRUE(Seen().textHint.ends_with("\nScan stopped: 1 of 1 sudokus solved"));
+    EXPECT_TRUE(Seen().Command(CommandId::SolveScan).isEnabled);
+    EXPECT_TRUE(Seen().isBoardEnabled);
+    EXPECT_EQ(Records().ReadStatistics(5), LevelStatistics());
+}
+
+TEST_F(AutosolveTest, AHaltOrADamagedRecordEndsOnePuzzleAlone) {
+    PuzzleRecord damaged = PuzzleWithOpen(kOpen);
+    damaged.clues[5] = 12;
+    files.WriteAt(Records().PuzzlePath(5), kPuzzleRecordSize, Pack(damaged));
+    settings.Save("Technique", "Halt3", "1");
+    StartAgain();
+    game->mnuLevelNr(5);
+    ExpectRange("3", "1", "3");
+    game->mnuSolveScan();
+    EXPECT_EQ(Log(), kStart + kStart);
+    EXPECT_EQ(Seen().status[1], "Number: 3");
+    EXPECT_TRUE(Seen().textHint.ends_with(
+        "\nScan completed: 0 of 2 sudokus solved, not solved: 1, 3, damaged: 2"));
+    // Each puzzle yields once; the second time is that of the damaged one.
+    StopAtYield(2);
+    ExpectRange("3", "1", "3");
+    game->mnuSolveScan();
+    EXPECT_TRUE(Seen().textHint.ends_with(
+        "\nScan stopped: 0 of 1 sudokus solved, not solved: 1, damaged: 2"));
+}
+
+TEST_F(AutosolveTest, TheRangeIsAskedForUntilItIsOne) {
+    const std::string from = "Scan 'from' number";
+    const std::string to = "Scan 'to' number";
+    game->mnuLevelNr(5);
+    view.ExpectQuestion(from, "Enter a value between 1 and 3", std::nullopt);
+    game->mnuSolveScan();
+    for (const char* wrong : {"0", "4", "-1", "two", "99999999999"}) {
+        view.ExpectQuestion(from, "Enter a value between 1 and 3", wrong);
+    }
+    view.ExpectQuestion(from, "Enter a value between 1 and 3", "2");
+    view.ExpectQuestion(to, "Enter a value between 2 and 3", "1");
+    view.ExpectQuestion(to, "Enter a value between 2 and 3", "  ");
+    game->mnuSolveScan();
+    EXPECT_EQ(Log(), "");
+
+    game->mnuPencilmarksMode();
+    ExpectRange("3", "2", "2");
+    view.Expect("Hidden pencilmarks detected", kMarksQuestion, Answer::No);
+    game->mnuSolveScan();
+    EXPECT_EQ(Seen().status[1], "Number: none") << "nothing was opened";
+}
+
+TEST_F(AutosolveTest, AScanWithoutPuzzlesSaysSo) {
+    game->mnuLevelNr(5);
+    files.Replace(Records().PuzzlePath(5), Bytes{});
+    view.Expect("Can't open sudoku", "No Insane sudokus found to open");
+    game->mnuSolveScan();
+    std::filesystem::remove(Records().PuzzlePath(5));
+    view.Expect("File error", "Source file: " + Records().PuzzlePath(5).string() + " not found!");
+    game->mnuSolveScan();
+}
+
+class AutosolvePlayTest : public PlayTest {
+  protected:
+    AutosolvePlayTest() { session.level = 5; }
+};
+
+TEST_F(AutosolvePlayTest, AStaleMarkIsColouredWithAllThatItsDigitRulesOut) {
+    Left(kA1, 1);
+    session.grid.GiveBack(kA4, 1);
+    session.grid.GiveBack(kB1, 1);
+    AutoSolve(stage);
+    EXPECT_EQ(TakeText(),
+              "Since number 1 is located at cell A1, this number cannot longer be a candidate in "
+              "that same row, column or block");
+    const Screen screen = MakeScreen(stage);
+    EXPECT_EQ(MarkIn(screen, kA4, 1).role, Role::Attacked);
+    EXPECT_EQ(MarkIn(screen, kB1, 1).role, Role::Attacked);
+    EXPECT_TRUE(CellIn(screen, kA1).isHintCell);
+    for (const char* cell : {"A9", "J1", "C3"}) {
+        EXPECT_TRUE(CellIn(screen, CellNamed(cell)).isUnitTint) << cell;
+    }
+    EXPECT_FALSE(CellIn(screen, CellNamed("D2")).isUnitTint);
+    EXPECT_EQ(LastSound(), Sound::Error);
+}
+
+// A known position where the Bivalue Universal Grave takes all that is left of a cell.
+TEST_F(AutosolvePlayTest, ADeadEndIsNotSolved) {
+    session.puzzle = RecordOf(ParseDigits(
+        "184653792...4291..92.7185....93726.16715842392..961.7541.296.5..628.591..9.1.7.26"));
+    session.grid = Grid::FromClues(session.puzzle.clues);
+    struct Cell {
+        const char* name;
+        const char* marks;
+    };
+    const Cell cells[] = {{"B1", "37"}, {"B2", "35"}, {"B3", "567"}, {"B8", "68"}, {"B9", "38"},
+                          {"C3", "36"}, {"C8", "46"}, {"C9", "34"},  {"D1", "58"}, {"D2", "45"},
+                          {"D8", "48"}, {"F2", "34"}, {"F3", "38"},  {"F7", "48"}, {"G3", "37"},
+                          {"G7", "38"}, {"G9", "78"}, {"H1", "37"},  {"H5", "34"}, {"H9", "47"},
+                          {"J1", "58"}, {"J3", "58"}, {"J5", "34"},  {"J7", "34"}};
+    for (const auto& [name, marks] : cells) {
+        vemo::test::Discard(session.grid, CellNamed(name),
+                            static_cast<Marks>(kAllMarks & ~DigitsNamed(marks)));
+    }
+    std::fill_n(stage.techniques.onOff.begin() + kFirstMovableSlot, 19, false);
+    AutoSolve(stage);
+    EXPECT_EQ(stage.log.Text(),
+              kStart + "BUG: Removed candidates from cell B3 : 5 6 7\r\n" + kNotSolved);
+    EXPECT_EQ(TakeText(), kNotSolvedText);
+    EXPECT_EQ(LastSound(), Sound::Giggle);
+    EXPECT_EQ(MarksAt(CellNamed("B3")), 0);
+    EXPECT_TRUE(session.IsPlaying());
+}
+
+}  // namespace
+}  // namespace vemo::test
