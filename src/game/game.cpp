@@ -8,6 +8,7 @@
 #include "game/menus.h"
 #include "game/pencilmarks.h"
 #include "game/play_levels.h"
+#include "game/play_times.h"
 #include "game/screen_maker.h"
 #include "game/startup.h"
 

@@ -1,8 +1,5 @@
-// Levels and their puzzles: choosing, opening, saving, completing, and the times that are kept.
+// Levels and their puzzles: choosing, opening, saving, completing.
 #pragma once
-
-#include <array>
-#include <string>
 
 #include "game/stage.h"
 
@@ -44,12 +41,5 @@ bool SaveProgress(Stage& stage);
 // After every step: a grid filled correctly is completed. In a scan that leaves no trace but on the
 // board.
 void ZetOpgelost(Stage& stage);
-
-void EraseSudokuTime(Stage& stage);
-void EraseLevelTime(Stage& stage);
-void EraseAllTime(Stage& stage);
-
-// The five panels of the status bar.
-std::array<std::string, kStatusPanels> StatusPanels(const Session& session);
 
 }  // namespace vemo

@@ -6,7 +6,7 @@
 #include "game/entry.h"
 #include "game/menus.h"
 #include "game/pencilmarks.h"
-#include "game/play_levels.h"
+#include "game/play_times.h"
 
 namespace vemo {
 namespace {

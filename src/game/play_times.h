@@ -1,0 +1,23 @@
+// The times that are kept of puzzles and levels: counting a completion, showing, erasing.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "game/stage.h"
+
+namespace vemo {
+
+// Counts a completion of the current puzzle, in whole seconds, for puzzle and level; a new best
+// time is told and the puzzle's record written.
+void CountCompletion(Stage& stage, int seconds);
+
+// Each writes its files at once; where that fails it is told, and nothing changes in memory.
+void EraseSudokuTime(Stage& stage);
+void EraseLevelTime(Stage& stage);
+void EraseAllTime(Stage& stage);
+
+// The five panels of the status bar.
+std::array<std::string, kStatusPanels> StatusPanels(const Session& session);
+
+}  // namespace vemo
