@@ -127,8 +127,19 @@ void Solver::Search(const Step& step, FindSink& sink) {
 
 Solver Solver::BeginTrial(int digit, int cell) {
     Solver trial(position_.Cells());
-    trial.position_.Change().Zet(digit, cell);
-    --trial.emptyCount_;
+    Grid& grid = trial.position_.Change();
+    // What an earlier trial left behind must not mislead this one into a clash.
+    for (int filled : CellSet::All() - grid.EmptyCells()) {
+        for (int peer : Peers(filled) & grid.Candidates(grid.Digit(filled))) {
+            grid.VerwijderKnop(peer, grid.Digit(filled));
+        }
+    }
+    if (grid.KnopAan(cell, digit)) {
+        grid.Zet(digit, cell);
+        --trial.emptyCount_;
+    } else {
+        grid.WisKnop(cell);  // a dead end from the start
+    }
     trial.log_ = log_;
     if (watcher_) {
         // Whatever the trial tries, the run is still at the same step.

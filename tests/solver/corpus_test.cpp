@@ -120,5 +120,19 @@ TEST(Corpus, AnEquivalentPuzzleHasTheSameRating) {
     }
 }
 
+// Asked where singles are still open, a failed trial leaves some of them filled and their peers
+// as they were.
+TEST(Corpus, NoTrialIsMisledByWhatAnEarlierOneLeft) {
+    const Step& trial = StepOfSlot(kSlots - 1);
+    PositionsOfCorpus positions;
+    for (int tried = 0; tried < 60; ++tried) {
+        const PositionsOfCorpus::Known known = positions.Next();
+        for (const Find& find : SearchAll(trial, known.grid)) {
+            const auto [cell, digit] = find.placements[0];
+            ASSERT_EQ(known.solution[cell], digit) << LogLine(find);
+        }
+    }
+}
+
 }  // namespace
 }  // namespace vemo
