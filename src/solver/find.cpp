@@ -5,6 +5,15 @@
 
 namespace vemo {
 
+Find Find::Placing(HintKind kind, int cell, int digit) {
+    Find find;
+    find.kind = kind;
+    find.AddCell(cell);
+    find.AddDigit(digit);
+    find.placements.Add(At(cell, digit));
+    return find;
+}
+
 void Find::AddCells(CellSet set) {
     for (int cell : set) {
         AddCell(cell);

@@ -96,6 +96,9 @@ struct Find {
     Sequence<CellDigit, kMaxEffects> placements;
     Sequence<CellDigit, kMaxEffects> removals;  // by cell, then digit
 
+    // One digit comes to one cell.
+    static Find Placing(HintKind kind, int cell, int digit);
+
     void AddUnit(int unit) { units.Add(static_cast<std::uint8_t>(unit)); }
     void AddCell(int cell) { cells.Add(static_cast<std::uint8_t>(cell)); }
     void AddDigit(int digit) { digits.Add(static_cast<std::uint8_t>(digit)); }

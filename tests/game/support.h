@@ -14,6 +14,7 @@
 #include "platform/plain_files.h"
 #include "support/puzzles.h"
 #include "support/temp_folder.h"
+#include "support/test_folders.h"
 
 namespace vemo::test {
 
@@ -28,18 +29,6 @@ class TestSounds final : public Sounds {
     bool Load(int, const std::filesystem::path&) override { return true; }
     void Play(int slot) override { played.push_back(static_cast<Sound>(slot)); }
     std::vector<Sound> played;
-};
-
-class TestFolders final : public Folders {
-  public:
-    TestFolders(std::filesystem::path program, std::filesystem::path data)
-        : program_(std::move(program)), data_(std::move(data)) {}
-    std::filesystem::path Executable() override { return program_; }
-    std::filesystem::path LocalApplicationData() override { return data_; }
-
-  private:
-    std::filesystem::path program_;
-    std::filesystem::path data_;
 };
 
 // Answers boxes from a script of titles, texts and answers. A box that nobody expected fails, and

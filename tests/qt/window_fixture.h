@@ -17,22 +17,9 @@
 #include "qt/qt_clock.h"
 #include "qt/qt_folders.h"
 #include "qt/window_view.h"
+#include "support/test_folders.h"
 
 namespace vemo::test {
-
-// The executable's folder of a test stands elsewhere than the program's.
-class TestFolders final : public Folders {
-  public:
-    TestFolders(std::filesystem::path program, std::filesystem::path data)
-        : program_(std::move(program)), data_(std::move(data)) {}
-
-    std::filesystem::path Executable() override { return program_; }
-    std::filesystem::path LocalApplicationData() override { return data_; }
-
-  private:
-    std::filesystem::path program_;
-    std::filesystem::path data_;
-};
 
 class WindowFixture {
   public:

@@ -78,20 +78,7 @@ TEST(UniversalGrave, FiresWithNothingToTakeAndTheLadderGoesOn) {
 
 // A known position where the rule is wrong: the solution has 7 at B3.
 TEST(UniversalGrave, CanTakeTheRightDigit) {
-    Grid grid = Grid::FromClues(ParseDigits(
-        "184653792...4291..92.7185....93726.16715842392..961.7541.296.5..628.591..9.1.7.26"));
-    struct Cell {
-        const char* name;
-        const char* marks;
-    };
-    const Cell cells[] = {{"B1", "37"}, {"B2", "35"}, {"B3", "567"}, {"B8", "68"}, {"B9", "38"},
-                          {"C3", "36"}, {"C8", "46"}, {"C9", "34"},  {"D1", "58"}, {"D2", "45"},
-                          {"D8", "48"}, {"F2", "34"}, {"F3", "38"},  {"F7", "48"}, {"G3", "37"},
-                          {"G7", "38"}, {"G9", "78"}, {"H1", "37"},  {"H5", "34"}, {"H9", "47"},
-                          {"J1", "58"}, {"J3", "58"}, {"J5", "34"},  {"J7", "34"}};
-    for (const auto& [name, marks] : cells) {
-        Discard(grid, CellNamed(name), static_cast<Marks>(kAllMarks & ~DigitsNamed(marks)));
-    }
+    const Grid grid = GraveThatIsWrong();
     const FirstFind first = SearchFirst(StepOfSlot(kGraveSlot), grid);
     ASSERT_TRUE(first.any);
     EXPECT_EQ(LogLine(first.found), "BUG: Removed candidates from cell B3 : 5 6 7");

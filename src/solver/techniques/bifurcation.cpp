@@ -48,15 +48,9 @@ void Bifurcation(Solver& solver, FindSink& sink) {
         for (int cell : bivalue& before.Candidates(digit)) {
             solver.Log("");
             solver.Log("Bifurcation attempt: placed candidate " + AtCell(digit, cell));
-            if (BIFSolveSudoku(solver, digit, cell)) {
-                Find find;
-                find.kind = HintKind::Bifurcation;
-                find.AddCell(cell);
-                find.AddDigit(digit);
-                find.placements.Add(At(cell, digit));
-                if (!sink.Offer(find)) {
-                    return;
-                }
+            if (BIFSolveSudoku(solver, digit, cell) &&
+                !sink.Offer(Find::Placing(HintKind::Bifurcation, cell, digit))) {
+                return;
             }
             if (solver.IsStopped()) {
                 return;

@@ -23,12 +23,8 @@ bool OfferHiddenSingles(const Grid& grid, int unitNumber, FindSink& sink) {
          singles &= static_cast<Marks>(singles - 1)) {
         const int digit = FirstDigit(singles);
         const int cell = (grid.Candidates(digit) & unit.set).First();
-        Find find;
-        find.kind = HintKind::HiddenSingle;
+        Find find = Find::Placing(HintKind::HiddenSingle, cell, digit);
         find.AddUnit(unitNumber);
-        find.AddCell(cell);
-        find.AddDigit(digit);
-        find.placements.Add(At(cell, digit));
         if (!sink.Offer(find)) {
             return false;
         }
@@ -61,12 +57,7 @@ void NakedSingle(const Position& position, const Args&, FindSink& sink) {
     }
     for (int cell : once - twice) {
         const int digit = FirstDigit(position.Cells().MarksAt(cell));
-        Find find;
-        find.kind = HintKind::NakedSingle;
-        find.AddCell(cell);
-        find.AddDigit(digit);
-        find.placements.Add(At(cell, digit));
-        if (!sink.Offer(find)) {
+        if (!sink.Offer(Find::Placing(HintKind::NakedSingle, cell, digit))) {
             return;
         }
     }
