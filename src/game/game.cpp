@@ -46,6 +46,7 @@ Game::Game(const Platform& platform, View& view) : stage_(platform, view) {
 
 void Game::Show() {
     screen_ = MakeScreen(stage_);
+    hintWindow_ = MakeHintWindow(stage_);
     stage_.view.Refresh();
 }
 
@@ -144,12 +145,20 @@ void Game::CommandPauseClick() {
     });
 }
 
+void Game::TextHintDblClick() {
+    Handle(OpenHintWindow);
+}
+
 void Game::SudTekstChange(const std::string& text) {
     Handle([&](Stage& stage) { ChangeSudTekst(stage, text); });
 }
 
 void Game::SudTekstDrop(const std::vector<std::filesystem::path>& paths) {
     Handle([&](Stage& stage) { DropOnSudTekst(stage, paths); });
+}
+
+void Game::CommandCancelClick() {
+    Handle(CancelMaking);
 }
 
 void Game::MoveSelection(Direction direction, Jump jump) {
@@ -162,6 +171,10 @@ void Game::KeyDigit(int digit) {
 
 void Game::KeyMark(int digit) {
     Handle([&](Stage& stage) { ToggleMarkBySelection(stage, digit); });
+}
+
+void Game::KeyReset() {
+    Handle(ResetCell);
 }
 
 void Game::KeyHint() {
@@ -241,6 +254,14 @@ void Game::mnuSolveSolution() {
     Handle(ShowSolution);
 }
 
+void Game::mnuSolveManager() {
+    stage_.view.OpenForm(Form::SolveTech);
+}
+
+void Game::mnuSolveLog() {
+    stage_.view.OpenForm(Form::FormLog);
+}
+
 void Game::mnuSolveAutoSolve() {
     Handle(AutoSolve);
 }
@@ -293,6 +314,10 @@ void Game::mnuOptionsWells() {
     Handle([](Stage& stage) { FlipOption(stage, &Options::wells); });
 }
 
+void Game::mnuOptionsSmallWindow() {
+    Handle(ToggleSmallHintWindow);
+}
+
 void Game::mnuAppearance(Appearance appearance) {
     Handle([&](Stage& stage) {
         stage.options.appearance = appearance;
@@ -302,6 +327,61 @@ void Game::mnuAppearance(Appearance appearance) {
 
 void Game::mnuHelpWeb() {
     Handle([](Stage& stage) { stage.view.OpenLink(kWebAddress); });
+}
+
+void Game::FormUnload(Form form) {
+    switch (form) {
+    case Form::FormHint:
+        HintWindowClosed(stage_);
+        break;
+    case Form::SolveTech:
+        WriteTechniqueSettings(stage_.settings, stage_.techniques);
+        stage_.settings.Flush();
+        break;
+    case Form::FormLog:
+        break;
+    }
+    Show();
+}
+
+void Game::mnuWindowRefresh() {
+    Handle(RefreshHintWindow);
+}
+
+void Game::mnuWindowsSave() {
+    Handle(SaveHintWindow);
+}
+
+void Game::mnuWindowClose() {
+    stage_.view.CloseForm(Form::FormHint);
+}
+
+void Game::mnuLogSave() {
+    Handle(SaveSolveLog);
+}
+
+void Game::CheckInclude(int index) {
+    Handle([&](Stage& stage) { stage.solveTech.CheckInclude(index); });
+}
+
+void Game::OptionOrder(int position) {
+    Handle([&](Stage& stage) { stage.solveTech.OptionOrder(position); });
+}
+
+void Game::KnopUp() {
+    Handle([](Stage& stage) { stage.solveTech.KnopUp(); });
+}
+
+void Game::KnopDown() {
+    Handle([](Stage& stage) { stage.solveTech.KnopDown(); });
+}
+
+void Game::CommandDefaultsClick() {
+    Handle([](Stage& stage) { stage.solveTech.SetDefaults(); });
+}
+
+void Game::CommandOK() {
+    stage_.view.CloseForm(Form::SolveTech);
 }
 
 }  // namespace vemo

@@ -21,8 +21,11 @@ class Game {
     const Options& CurrentOptions() const { return stage_.options; }
     const Colors& CurrentColors() const { return stage_.colors; }
     const Session& CurrentSession() const { return stage_.session; }
-    // The solve log's text, which only ever grows.
+    // The other windows: the hint window, the solve log's text, which only ever grows, and the
+    // technique manager, which is off while the game is busy.
+    const HintWindow& CurrentHintWindow() const { return hintWindow_; }
     const std::string& SolveLogText() const { return stage_.log.Text(); }
+    const SolveTech& TechniqueManager() const { return stage_.solveTech; }
 
     // The window.
     void FormLoad();
@@ -42,15 +45,19 @@ class Game {
     void Command1Click(int digit);  // the nine digit filters
     void CommandApplyClick();
     void CommandPauseClick();
+    void TextHintDblClick();
 
-    // The text box for a puzzle of one's own: its text was changed, files were dropped on it.
+    // The text box for a puzzle of one's own: its text was changed, files were dropped on it; and
+    // the button that gives the making up.
     void SudTekstChange(const std::string& text);
     void SudTekstDrop(const std::vector<std::filesystem::path>& paths);
+    void CommandCancelClick();
 
     // The keyboard.
     void MoveSelection(Direction direction, Jump jump);
     void KeyDigit(int digit);  // assigns to the selected cell
     void KeyMark(int digit);   // toggles a mark of the selected cell
+    void KeyReset();           // resets the selected cell, or takes its clue off while making
     void KeyHint();            // a hint, and again to apply it
 
     // The menus; each button calls its menu twin (CommandHint: Hint or Show Me, by its caption).
@@ -71,6 +78,8 @@ class Game {
     void mnuSolveHint();
     void mnuSolveShowMe();
     void mnuSolveSolution();
+    void mnuSolveManager();
+    void mnuSolveLog();
     void mnuSolveAutoSolve();
     void mnuSolveScan();
     void mnuSolveStop();
@@ -83,8 +92,23 @@ class Game {
     void mnuOptionsTimer();
     void mnuOptionsSounds();
     void mnuOptionsWells();
+    void mnuOptionsSmallWindow();
     void mnuAppearance(Appearance appearance);
     void mnuHelpWeb();
+
+    // The other windows: closed, by whatever means; the hint window's menu; the log's Save; the
+    // technique manager's boxes, option buttons and buttons.
+    void FormUnload(Form form);
+    void mnuWindowRefresh();
+    void mnuWindowsSave();
+    void mnuWindowClose();
+    void mnuLogSave();
+    void CheckInclude(int index);
+    void OptionOrder(int position);
+    void KnopUp();
+    void KnopDown();
+    void CommandDefaultsClick();
+    void CommandOK();
 
   private:
     // Runs one event unless a long function bars it, then shows the screen anew.
@@ -94,6 +118,7 @@ class Game {
 
     Stage stage_;
     Screen screen_;
+    HintWindow hintWindow_;
 };
 
 }  // namespace vemo

@@ -2,6 +2,7 @@
 #include "game/hints.h"
 
 #include "game/checks.h"
+#include "game/hint_window.h"
 #include "game/pencilmarks.h"
 #include "game/play_levels.h"
 #include "game/simple_hints.h"
@@ -119,6 +120,7 @@ void ShowFind(Stage& stage, const Find& find) {
     session.textHint = HintText(find);
     session.hintColors.Show(find);
     session.hint = find;
+    ShowHint(stage);
 }
 
 bool ReportEntries(Stage& stage, Reporter reporter) {

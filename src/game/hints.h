@@ -43,7 +43,7 @@ bool ShowHiddenMarks(Stage& stage, const char* question);
 enum class Reporter : std::uint8_t { Hint, Autosolve };
 bool ReportEntries(Stage& stage, Reporter reporter);
 
-// `SchrijfHint`, `ShowHint` and the colours of a find; it is the hint on display then.
+// `SchrijfHint`, the colours and `ShowHint` of a find; it is the hint on display then.
 void ShowFind(Stage& stage, const Find& find);
 
 }  // namespace vemo

@@ -253,6 +253,7 @@ void MakeSudoku(Stage& stage) {
     CloseSudoku(stage);
     session.phase = PlayPhase::Making;
     session.selectedCell = 0;
+    session.digitFilter = 0;
     session.sudTekst = kInvitation;
     session.isReadingRefused = false;
     session.textHint = kHowToMake;
@@ -317,6 +318,17 @@ void EmptyClue(Stage& stage) {
     if (session.IsMaking() && session.selectedCell != kNoCell &&
         session.grid.Digit(session.selectedCell) != 0) {
         PutClue(stage, session.selectedCell, 0);
+    }
+}
+
+void CancelMaking(Stage& stage) {
+    if (!stage.session.IsMaking()) {
+        return;
+    }
+    if (stage.session.grid.Givens().Any()) {
+        OfferToAbort(stage, "Make", "Do you want to abort the making of this sudoku ?");
+    } else {
+        Discard(stage);
     }
 }
 

@@ -29,6 +29,8 @@ void ClickClue(Stage& stage, int cell, int digit, MouseButton button);
 void TypeClue(Stage& stage, int digit);
 // Empties the selected cell.
 void EmptyClue(Stage& stage);
+// Gives the making up; clues that are there are asked about.
+void CancelMaking(Stage& stage);
 
 // What the first of the five minimal requirements that the clues fail says; empty where they pass.
 std::string UnmetRestriction(const Digits& clues);

@@ -18,11 +18,6 @@ std::size_t Index(int number) {
     return static_cast<std::size_t>(number);
 }
 
-// Stopping the clock must not buy time to think: nothing of the puzzle is seen meanwhile.
-bool IsCovered(const Session& session) {
-    return session.IsPlaying() && session.isStoppedByPlayer;
-}
-
 // The digit whose cells stand out: the filter's, otherwise that of the selected cell.
 int HighlightedDigit(const Session& session) {
     if (session.digitFilter != 0 || session.selectedCell == kNoCell) {
@@ -119,20 +114,13 @@ void PutBrushes(const Session& session, Screen& screen) {
         session.brushes.IsArmed() && !session.links.IsOn() && !session.IsMaking();
 }
 
-}  // namespace
-
-Screen MakeScreen(const Stage& stage) {
+// All but the puzzle.
+Screen MakeFrame(const Stage& stage) {
     const Session& session = stage.session;
     Screen screen;
     screen.isBoardEnabled = (IsBoardOn(stage) || session.IsMaking()) && !session.IsBusy();
     screen.isMaking = session.IsMaking();
     screen.sudTekst = session.sudTekst;
-    screen.isBoardCovered = IsCovered(session);
-    if (screen.isBoardCovered) {
-        screen.textHint = kClockIsStopped;
-    } else {
-        PutPuzzle(stage, screen);
-    }
     PutBrushes(session, screen);
     PutClock(stage, screen);
     screen.isLinkMode = session.links.IsOn();
@@ -142,6 +130,29 @@ Screen MakeScreen(const Stage& stage) {
     screen.status = StatusPanels(session);
     screen.commands = CommandStates(stage);
     return screen;
+}
+
+}  // namespace
+
+Screen MakeScreen(const Stage& stage) {
+    if (!IsCovered(stage.session)) {
+        return MakeUncoveredScreen(stage);
+    }
+    Screen screen = MakeFrame(stage);
+    screen.isBoardCovered = true;
+    screen.textHint = kClockIsStopped;
+    return screen;
+}
+
+Screen MakeUncoveredScreen(const Stage& stage) {
+    Screen screen = MakeFrame(stage);
+    PutPuzzle(stage, screen);
+    return screen;
+}
+
+// Stopping the clock must not buy time to think.
+bool IsCovered(const Session& session) {
+    return session.IsPlaying() && session.isStoppedByPlayer;
 }
 
 }  // namespace vemo

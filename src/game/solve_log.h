@@ -6,6 +6,8 @@
 
 namespace vemo {
 
+struct Stage;
+
 class SolveLog {
   public:
     // Appends the text as it stands; line ends are CR LF.
@@ -17,5 +19,8 @@ class SolveLog {
   private:
     std::string text_;
 };
+
+// Saves the text as it stands in a file of the player's choice.
+void SaveSolveLog(Stage& stage);
 
 }  // namespace vemo

@@ -25,7 +25,8 @@ Stage::Stage(const Platform& system, View& frontEnd)
       view(frontEnd),
       anyFiles(system.files),
       files(system.files, system.folders.LocalApplicationData() / kApplicationName),
-      colors(BuiltInColors()) {}
+      colors(BuiltInColors()),
+      solveTech(techniques) {}
 
 void Speel(Stage& stage, Sound sound) {
     if (stage.options.sounds) {
@@ -53,8 +54,11 @@ bool IsSimpleLevel(const Stage& stage, int level) {
 }
 
 std::string HelpText() {
-    return "Press [Hint] if you get stuck !!! Minimize Window to pause."
-           " DoubleClick this window to pop up the small Hint Window.";
+    return "Press [Hint] if you get stuck !!! Minimize Window to pause." + DoubleClickText();
+}
+
+std::string DoubleClickText() {
+    return " DoubleClick this window to pop up the small Hint Window.";
 }
 
 void Tell(Stage& stage, const std::string& title, const std::string& text, BoxIcon icon) {
@@ -82,6 +86,10 @@ std::optional<int> AskNumber(Stage& stage, const Question& question, int least, 
 
 void TellWriteFailed(Stage& stage) {
     Tell(stage, "File Error", "Error writing sudoku to file !");
+}
+
+void TellFileError(Stage& stage, const FileError& error) {
+    Tell(stage, "File Error", error.path.string() + ": " + error.reason);
 }
 
 }  // namespace vemo

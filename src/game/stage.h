@@ -4,9 +4,11 @@
 #include <functional>
 #include <string>
 
+#include "game/hint_window.h"
 #include "game/options.h"
 #include "game/session.h"
 #include "game/solve_log.h"
+#include "game/solve_tech.h"
 #include "game/view.h"
 #include "model/files.h"
 #include "platform/clock.h"
@@ -43,6 +45,8 @@ struct Stage {
     TechniqueSettings techniques;
     Session session;
     SolveLog log;
+    HintWindow hintWindow;
+    SolveTech solveTech;
 
     // Makes the screen anew and has it painted; set by the game. Called before every box and every
     // yield, so that the player never looks at an old state.
@@ -75,8 +79,9 @@ void FlipOption(Stage& stage, bool Options::*option);
 bool IsSimpleMode(const Stage& stage);
 bool IsSimpleLevel(const Stage& stage, int level);
 
-// The text of a puzzle just loaded or restarted.
+// The text of a puzzle just loaded or restarted, and its end: of the big hint window.
 std::string HelpText();
+std::string DoubleClickText();
 
 // A message box with an OK button.
 void Tell(Stage& stage, const std::string& title, const std::string& text,
@@ -89,5 +94,7 @@ std::optional<int> AskNumber(Stage& stage, const Question& question, int least, 
 
 // A file of the game could not be written.
 void TellWriteFailed(Stage& stage);
+// A file of the player's choice could not be written: named, with the reason.
+void TellFileError(Stage& stage, const FileError& error);
 
 }  // namespace vemo

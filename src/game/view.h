@@ -3,9 +3,12 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
+
+#include "platform/files.h"
 
 namespace vemo {
 
@@ -28,14 +31,32 @@ struct Question {
     std::string suggestion;
 };
 
+// Where to save a file; a front end asks before a file is replaced.
+struct SaveQuestion {
+    std::string title;
+    std::string fileName;  // suggested
+    std::string kind;      // "Text files (*.txt)"
+};
+
+// The windows that stand beside the main window.
+enum class Form : std::uint8_t { FormHint, FormLog, SolveTech };
+
 class View {
   public:
     virtual ~View() = default;
 
-    // Waits for the answer. A box that is closed answers Ok, No or Ignore.
+    // Waits for the answer. A box that is closed answers Ok, No or Retry: nothing is done.
     virtual Answer ShowBox(const Box& box) = 0;
     // Nothing where the player cancels.
     virtual std::optional<std::string> Ask(const Question& question) = 0;
+    virtual std::optional<std::filesystem::path> AskSaveFile(const SaveQuestion& question) = 0;
+
+    // Shows a window, or brings it to the front; waits for nothing. Whatever closes it later, the
+    // game hears of it by `FormUnload`.
+    virtual void OpenForm(Form form) = 0;
+    virtual void CloseForm(Form form) = 0;
+    // The hint window as it would be seen, as a BMP file. Empty where it is not open.
+    virtual Bytes HintPicture() = 0;
 
     // Lets the window handle its events; events may reach the game meanwhile.
     virtual void Yield() = 0;

@@ -116,6 +116,10 @@ QPointF BoardGeometry::WellDigitCenter(UnitKind kind, int index, int digit) cons
     return middle + QPointF(StepAcross(digit) * pitch.width(), StepDown(digit) * pitch.height());
 }
 
+bool BoardGeometry::AreWellsApart() const {
+    return 3 * std::max(kWellPitchAcross, kWellPitchDown) * wellPx <= cell;
+}
+
 BoardTarget BoardGeometry::At(const QPointF& point) const {
     const double column = (point.x() - corner.x()) / cell;
     const double row = (point.y() - corner.y()) / cell;

@@ -43,6 +43,8 @@ struct BoardGeometry {
     // Beside its well, or in the middle of the strip where no well is shown.
     QPointF LabelCenter(UnitKind kind, int index, bool hasWell) const;
     QPointF WellDigitCenter(UnitKind kind, int index, int digit) const;
+    // Whether each well stands clear of the next.
+    bool AreWellsApart() const;
 
     BoardTarget At(const QPointF& point) const;
 };

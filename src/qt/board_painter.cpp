@@ -2,6 +2,7 @@
 #include "qt/board_painter.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QPainter>
 
@@ -30,6 +31,19 @@ bool IsMarkPointed(const Screen& screen, const BoardTarget& pointed) {
 }
 
 }  // namespace
+
+void WorkInDevicePixels(QPainter& painter, double scale) {
+    const QPointF origin = painter.deviceTransform().map(QPointF(0, 0));
+    const QPointF shift(std::round(origin.x()) - origin.x(), std::round(origin.y()) - origin.y());
+    QTransform transform;
+    transform.translate(shift.x() / scale, shift.y() / scale);
+    transform.scale(1 / scale, 1 / scale);
+    painter.setWorldTransform(transform);
+}
+
+WellsRoom WellsRoomOf(const Screen& screen) {
+    return screen.Command(CommandId::OptionsWells).isChecked ? WellsRoom::Kept : WellsRoom::None;
+}
 
 BoardPainter::BoardPainter(QPainter& painter, const BoardGeometry& board, const BoardColors& colors,
                            const QFont& font)

@@ -19,6 +19,14 @@ struct BoardTouch {
     BoardTarget pointed;  // what is under the mouse
 };
 
+// Makes the painter's unit one device pixel, `scale` of them to a logical one, and its origin a
+// whole one.
+void WorkInDevicePixels(QPainter& painter, double scale);
+
+// The wells' room is kept while there is nothing to show in them, so that the board stays where it
+// is.
+WellsRoom WellsRoomOf(const Screen& screen);
+
 class BoardPainter {
   public:
     // All references outlive the painter. `font` names the family; the sizes are the board's.

@@ -1,8 +1,6 @@
 // The board of the main window.
 #include "qt/board_widget.h"
 
-#include <cmath>
-
 #include <QAccessible>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -23,21 +21,6 @@ QRect Scaled(const QRectF& rect, double scale) {
     return QRectF(rect.topLeft() * scale, rect.size() * scale).toAlignedRect();
 }
 
-// Their room is kept while there is nothing to show in them, so that the board stays where it is.
-bool HaveWells(const Screen& screen) {
-    return screen.Command(CommandId::OptionsWells).isChecked;
-}
-
-// Makes the painter's unit one device pixel, its origin a whole one.
-void WorkInDevicePixels(QPainter& painter, double scale) {
-    const QPointF origin = painter.deviceTransform().map(QPointF(0, 0));
-    const QPointF shift(std::round(origin.x()) - origin.x(), std::round(origin.y()) - origin.y());
-    QTransform transform;
-    transform.translate(shift.x() / scale, shift.y() / scale);
-    transform.scale(1 / scale, 1 / scale);
-    painter.setWorldTransform(transform);
-}
-
 }  // namespace
 
 BoardWidget::BoardWidget(Game& game, QWidget* parent) : QWidget(parent), game_(game) {
@@ -51,7 +34,7 @@ void BoardWidget::ShowScreen(const Screen& screen, const BoardColors& colors) {
     const Screen before = std::exchange(screen_, screen);
     const bool isRecolored = colors != std::exchange(colors_, colors);
     const BoardDiff diff = CompareBoards(before, screen_);
-    if (HaveWells(before) != HaveWells(screen_)) {
+    if (WellsRoomOf(before) != WellsRoomOf(screen_)) {
         Fit();
     }
     if (diff.isAll || isRecolored) {
@@ -166,7 +149,7 @@ void BoardWidget::Fit() {
     // One pixel less: the widget itself may begin in the middle of one.
     const QSize room(static_cast<int>(width() * scale_) - 1,
                      static_cast<int>(height() * scale_) - 1);
-    board_ = FitBoard(room, scale_, HaveWells(screen_) ? WellsRoom::Kept : WellsRoom::None);
+    board_ = FitBoard(room, scale_, WellsRoomOf(screen_));
     update();
 }
 

@@ -117,7 +117,7 @@ void ClockBar::ShowScreen(const Screen& screen) {
     time_->setVisible(screen.isClockShown);
     pause_->setVisible(screen.isClockShown);
     // A stopped clock can go on; a running one can be stopped while the board is in play.
-    pause_->setEnabled(screen.isBoardEnabled || screen.isClockStopped);
+    pause_->setEnabled((screen.isBoardEnabled && !screen.isMaking) || screen.isClockStopped);
     pause_->setChecked(screen.isClockStopped);
     const QString deed = screen.isClockStopped ? u"Go on"_s : u"Stop the clock"_s;
     pause_->setAccessibleName(deed);

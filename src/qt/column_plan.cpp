@@ -19,6 +19,8 @@ constexpr double kHalves = 28;       // width from which two halves fit side by 
 constexpr double kLowColumn = 32;  // height, in lines
 constexpr double kTightShare = 0.55;
 
+constexpr double kHintOfMaking = 0.4;  // of the height of hint and text box together, at most
+
 struct Measures {
     int gap;
     int section;
@@ -82,6 +84,23 @@ int PlaceButtons(ColumnPlan& plan, QRect room, const ColumnTexts& texts, const M
     return bottom;
 }
 
+// The text box above its two buttons, in `room`. Its hint is short and gives way to it.
+void PlaceMaking(ColumnPlan& plan, QRect room, const Measures& sizes) {
+    std::array<QRect, 2> buttons;
+    PlaceRows(buttons, room.adjusted(0, room.height() - sizes.command, 0, 0), 2, sizes.command,
+              sizes.gap);
+    plan.validate = buttons[0];
+    plan.cancel = buttons[1];
+    plan.hintOfMaking = plan.hint;
+    if (plan.hint.left() == room.left()) {
+        const int both = room.bottom() + 1 - plan.hint.top();
+        plan.hintOfMaking.setHeight(
+            std::min(plan.hint.height(), static_cast<int>(kHintOfMaking * both)));
+        room.setTop(plan.hintOfMaking.bottom() + 1 + sizes.section);
+    }
+    plan.making = room.adjusted(0, 0, 0, -sizes.command - sizes.gap);
+}
+
 }  // namespace
 
 ColumnPlan PlanColumn(QSize size, const ColumnTexts& texts) {
@@ -90,19 +109,23 @@ ColumnPlan PlanColumn(QSize size, const ColumnTexts& texts) {
     const Measures sizes = MeasuresFor(texts, size.height(), isHalf);
     if (isHalf) {
         const int half = (size.width() - sizes.section) / 2;
-        PlaceButtons(plan, QRect(size.width() - half, 0, half, size.height()), texts, sizes);
+        const QRect right(size.width() - half, 0, half, size.height());
+        PlaceButtons(plan, right, texts, sizes);
         plan.clock = QRect(0, 0, half, sizes.clock);
         const int top = plan.clock.bottom() + 1 + sizes.gap;
         plan.hint = QRect(0, top, half, size.height() - top);
+        PlaceMaking(plan, right, sizes);
         return plan;
     }
     // The buttons stand at the bottom; the hint has what they leave.
     const int needed = PlaceButtons(plan, QRect(QPoint(0, 0), size), texts, sizes);
-    PlaceButtons(plan, QRect(0, size.height() - needed, size.width(), needed), texts, sizes);
+    const QRect bottom(0, size.height() - needed, size.width(), needed);
+    PlaceButtons(plan, bottom, texts, sizes);
     plan.clock = QRect(0, 0, size.width(), sizes.clock);
     const int top = plan.clock.bottom() + 1 + sizes.gap;
     plan.hint = QRect(0, top, size.width(),
                       std::max(texts.line, size.height() - needed - sizes.section - top));
+    PlaceMaking(plan, bottom, sizes);
     return plan;
 }
 

@@ -28,6 +28,12 @@ struct ColumnPlan {
     QRect colorCaption;
     std::array<QRect, kBrushColors> colors;
     QRect link;
+
+    // While a puzzle is made, in the room of the hint and all buttons.
+    QRect hintOfMaking;
+    QRect making;  // the text box
+    QRect validate;
+    QRect cancel;
 };
 
 // One above the other; side by side in two halves where the column is wide and low.

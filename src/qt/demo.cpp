@@ -33,6 +33,12 @@ class DemoView final : public View {
     std::optional<std::string> Ask(const Question& question) override {
         return question.suggestion;
     }
+    std::optional<std::filesystem::path> AskSaveFile(const SaveQuestion&) override {
+        return std::nullopt;
+    }
+    void OpenForm(Form) override {}
+    void CloseForm(Form) override {}
+    Bytes HintPicture() override { return {}; }
     void Yield() override {}
     void Pause(int, const std::function<bool()>&) override {}
     void Refresh() override {

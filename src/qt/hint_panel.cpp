@@ -5,14 +5,13 @@
 
 #include <QEvent>
 #include <QLabel>
-#include <QPainter>
-#include <QPlainTextEdit>
+#include <QMouseEvent>
 #include <QPushButton>
-#include <QTextDocument>
-#include <QTextLayout>
 
 #include "qt/legend.h"
+#include "qt/reading_box.h"
 #include "qt/screen_text.h"
+#include "qt/text_panel.h"
 
 namespace vemo {
 
@@ -20,39 +19,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double kRadius = 8;
 constexpr int kTightHeight = 13;  // in lines, below which everything moves together
-// What the text box keeps around its lines.
-constexpr int kTextSlack = 4;
 
-// Its focus is shown by the panel around it.
-class TextBox final : public QPlainTextEdit {
-  public:
-    using QPlainTextEdit::QPlainTextEdit;
-
-  protected:
-    void focusInEvent(QFocusEvent* event) override {
-        QPlainTextEdit::focusInEvent(event);
-        parentWidget()->update();
-    }
-    void focusOutEvent(QFocusEvent* event) override {
-        QPlainTextEdit::focusOutEvent(event);
-        parentWidget()->update();
-    }
-};
-
-QPlainTextEdit* MakeTextBox(QWidget* parent) {
-    auto* text = new TextBox(parent);
+ReadingBox* MakeTextBox(Game& game, QWidget* parent) {
+    auto* text = new ReadingBox(parent);
     text->setObjectName(u"TextHint"_s);
     text->setAccessibleName(u"Hint"_s);
-    text->setReadOnly(true);
-    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    text->setFrameShape(QFrame::NoFrame);
-    text->setTabChangesFocus(true);
-    text->setUndoRedoEnabled(false);
-    text->document()->setDocumentMargin(0);
-    text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    text->viewport()->setAutoFillBackground(false);
+    text->setToolTip(u"Double-click, or press Enter, for the hint window"_s);
+    text->setAccessibleDescription(text->toolTip());
+    text->OnOpen([&game] { game.TextHintDblClick(); });
     return text;
 }
 
@@ -60,8 +35,9 @@ QPlainTextEdit* MakeTextBox(QWidget* parent) {
 
 HintPanel::HintPanel(Game& game, QWidget* parent)
     : QFrame(parent),
+      game_(game),
       caption_(new QLabel(this)),
-      text_(MakeTextBox(this)),
+      text_(MakeTextBox(game, this)),
       legend_(new Legend(this)),
       apply_(new QPushButton(u"&Apply"_s, this)) {
     setObjectName(u"HintPanel"_s);
@@ -86,22 +62,13 @@ void HintPanel::ShowScreen(const Screen& screen, const BoardColors& colors) {
         return;
     }
     caption_->setText(caption);
-    if (text != text_->toPlainText()) {
-        text_->setPlainText(text);
-    }
+    text_->ShowText(text);
     apply_->setEnabled(screen.canApply);
     Arrange();
 }
 
 void HintPanel::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const bool hasFocus = text_->hasFocus();
-    const double line = hasFocus ? 2 : 1;
-    painter.setPen(QPen(palette().color(hasFocus ? QPalette::Highlight : QPalette::Mid), line));
-    painter.setBrush(palette().base());
-    painter.drawRoundedRect(QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2),
-                            kRadius, kRadius);
+    PaintPanel(*this, text_->hasFocus() ? PanelFocus::Within : PanelFocus::Without);
 }
 
 void HintPanel::resizeEvent(QResizeEvent*) {
@@ -119,6 +86,13 @@ void HintPanel::changeEvent(QEvent* event) {
     Arrange();
 }
 
+// The text box is no higher than its text: to the player all of the panel is "this window".
+void HintPanel::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        game_.TextHintDblClick();
+    }
+}
+
 // The text is as high as it needs to be; where there is no room for it, it scrolls.
 void HintPanel::Arrange() {
     const int line = fontMetrics().height();
@@ -132,12 +106,6 @@ void HintPanel::Arrange() {
     const int applyHeight = apply_->isEnabled() ? line * (isTight ? 7 : 8) / 4 : 0;
     const int below =
         (legendHeight > 0 ? legendHeight + gap : 0) + (applyHeight > 0 ? applyHeight + gap : 0);
-    const int wanted = TextHeight(room.width());
-    const int textHeight = std::min(wanted, WholeLines(room.height() - captionHeight - below));
-    // A bar that is there narrows the lines, so that it would go on being needed.
-    text_->setVerticalScrollBarPolicy(wanted <= textHeight ? Qt::ScrollBarAlwaysOff
-                                                           : Qt::ScrollBarAsNeeded);
-
     int top = room.top();
     const auto place = [&room, &top](QWidget* part, int width, int height, int after) {
         part->setVisible(height > 0);
@@ -148,33 +116,10 @@ void HintPanel::Arrange() {
         top += height + after;
     };
     place(caption_, room.width(), captionHeight - gap, gap);
-    place(text_, room.width(), textHeight, gap);
+    text_->PlaceIn({room.left(), top, room.width(), room.bottom() + 1 - below - top});
+    top = text_->geometry().bottom() + 1 + gap;
     place(legend_, room.width(), legendHeight, gap);
     place(apply_, std::min(room.width(), apply_->sizeHint().width() + 2 * line), applyHeight, 0);
-}
-
-// The largest height up to `height` that shows no line in part; one line at least.
-int HintPanel::WholeLines(int height) const {
-    const int line = text_->fontMetrics().lineSpacing();
-    return std::max(1, (height - kTextSlack) / line) * line + kTextSlack;
-}
-
-// Counted here, since the text box itself lays nothing out while it is hidden.
-int HintPanel::TextHeight(int width) const {
-    QTextOption option;
-    option.setWrapMode(text_->wordWrapMode());
-    int lines = 0;
-    for (const QString& paragraph : text_->toPlainText().split(u'\n')) {
-        QTextLayout layout(paragraph, text_->font());
-        layout.setTextOption(option);
-        layout.beginLayout();
-        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-            line.setLineWidth(width - 1);
-        }
-        layout.endLayout();
-        lines += std::max(1, layout.lineCount());
-    }
-    return lines * text_->fontMetrics().lineSpacing() + kTextSlack;
 }
 
 }  // namespace vemo

@@ -8,12 +8,12 @@
 #include "qt/theme.h"
 
 class QLabel;
-class QPlainTextEdit;
 class QPushButton;
 
 namespace vemo {
 
 class Legend;
+class ReadingBox;
 
 class HintPanel final : public QFrame {
   public:
@@ -26,14 +26,14 @@ class HintPanel final : public QFrame {
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
   private:
     void Arrange();
-    int TextHeight(int width) const;
-    int WholeLines(int height) const;
 
+    Game& game_;
     QLabel* caption_;
-    QPlainTextEdit* text_;
+    ReadingBox* text_;
     Legend* legend_;
     QPushButton* apply_;
 };

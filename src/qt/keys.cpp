@@ -127,7 +127,7 @@ void Do(Game& game, const KeyAction& action) {
         game.Command1Click(action.digit);
         break;
     case Kind::ResetCell:
-        game.Run(CommandId::SolveResetCell);
+        game.KeyReset();
         break;
     case Kind::Hint:
         game.KeyHint();

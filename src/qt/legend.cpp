@@ -16,7 +16,6 @@ namespace {
 
 // What stands struck through in the legend.
 constexpr int kSampleDigit = 3;
-constexpr int kRing = 2;  // that a shape may reach beyond its radius
 
 int SampleDigitOf(Role role) {
     return role == Role::Attacked ? kSampleDigit : 0;
@@ -51,34 +50,48 @@ bool Legend::ShowEntries(const std::vector<LegendEntry>& entries, const BoardCol
 }
 
 int Legend::heightForWidth(int width) const {
-    return entries_.empty() ? 0 : PlacesIn(width).back().y() + LineHeight();
+    return LegendPainter(entries_, font()).HeightFor(width);
 }
 
 QSize Legend::sizeHint() const {
-    int width = 0;
-    for (const LegendEntry& entry : entries_) {
-        width += EntryWidth(entry);
-    }
-    return {width, entries_.empty() ? 0 : LineHeight()};
+    const LegendPainter legend(entries_, font());
+    return {legend.WidthOfAll(), legend.HeightFor(legend.WidthOfAll())};
 }
 
 void Legend::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const std::vector<QPoint> places = PlacesIn(width());
+    LegendPainter(entries_, font()).Paint(painter, rect(), colors_);
+}
+
+int LegendPainter::WidthOfAll() const {
+    int width = 0;
+    for (const LegendEntry& entry : entries_) {
+        width += EntryWidth(entry);
+    }
+    return width;
+}
+
+int LegendPainter::HeightFor(int width) const {
+    return entries_.empty() ? 0 : PlacesIn(width).back().y() + LineHeight();
+}
+
+void LegendPainter::Paint(QPainter& painter, const QRect& room, const BoardColors& colors) const {
+    const std::vector<QPoint> places = PlacesIn(room.width());
     for (std::size_t index = 0; index < entries_.size(); ++index) {
         const LegendEntry& entry = entries_[index];
-        const QPoint middle = places[index] + QPoint(Radius() + kRing, LineHeight() / 2);
-        DrawRole(painter, middle, Radius(), entry.role, SampleDigitOf(entry.role), font(), colors_,
-                 colors_.theme.panel);
-        painter.setFont(font());
-        painter.setPen(colors_.theme.softText);
-        const QRect room(places[index] + QPoint(3 * Radius() + kRing, 0),
-                         QSize(width(), LineHeight()));
-        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, ToQString(entry.text));
+        const QPoint place = room.topLeft() + places[index];
+        const QPoint middle = place + QPoint(Radius() + Ring(), LineHeight() / 2);
+        DrawRole(painter, middle, Radius(), entry.role, SampleDigitOf(entry.role), font_, colors,
+                 colors.theme.panel);
+        painter.setFont(font_);
+        painter.setPen(colors.theme.softText);
+        const QRect words(place + QPoint(3 * Radius() + Ring(), 0),
+                          QSize(room.width(), LineHeight()));
+        painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter, ToQString(entry.text));
     }
 }
 
-std::vector<QPoint> Legend::PlacesIn(int width) const {
+std::vector<QPoint> LegendPainter::PlacesIn(int width) const {
     std::vector<QPoint> places;
     QPoint next;
     for (const LegendEntry& entry : entries_) {
@@ -92,16 +105,8 @@ std::vector<QPoint> Legend::PlacesIn(int width) const {
     return places;
 }
 
-int Legend::EntryWidth(const LegendEntry& entry) const {
-    return 5 * Radius() + kRing + fontMetrics().horizontalAdvance(ToQString(entry.text));
-}
-
-int Legend::LineHeight() const {
-    return fontMetrics().height() + 6;
-}
-
-int Legend::Radius() const {
-    return fontMetrics().height() / 2;
+int LegendPainter::EntryWidth(const LegendEntry& entry) const {
+    return 5 * Radius() + Ring() + metrics_.horizontalAdvance(ToQString(entry.text));
 }
 
 }  // namespace vemo

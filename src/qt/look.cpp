@@ -26,6 +26,7 @@ constexpr double kRingGap = 2;
 
 constexpr double kHoverShare = 0.07;
 constexpr double kPressedShare = 0.16;
+constexpr double kDisabledShare = 0.5;  // how much of the border of a box that is off remains
 
 bool HasVisibleFocus(const QStyleOption& option) {
     constexpr QStyle::State kBoth = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
@@ -122,24 +123,61 @@ void DrawLineEdit(QPainter& painter, const QStyleOption& option) {
     painter.restore();
 }
 
-void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
+// The largest square in the middle; the pen and the brush are set for its border and ground.
+QRectF BeginIndicator(QPainter& painter, const QStyleOption& option) {
     const QPalette& palette = option.palette;
-    const bool isOn = option.state.testFlag(QStyle::State_On);
+    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
+    const QColor border = palette.color(QPalette::PlaceholderText);
+    const QColor window = palette.color(QPalette::Window);
     const double side = std::min(option.rect.width(), option.rect.height());
     QRectF box(0, 0, side, side);
     box.moveCenter(QRectF(option.rect).center());
-    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette.color(QPalette::PlaceholderText), kThin));
-    painter.setBrush(palette.base());
+    painter.setPen(QPen(isEnabled ? border : Mixed(window, border, kDisabledShare), kThin));
+    painter.setBrush(isEnabled ? palette.color(QPalette::Base) : window);
+    return box;
+}
+
+void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
+    painter.save();
+    const QRectF box = BeginIndicator(painter, option);
+    const double side = box.width();
     painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), side / 5, side / 5);
-    if (isOn) {
-        painter.setPen(QPen(palette.color(QPalette::Text), kHeavy));
+    if (option.state.testFlag(QStyle::State_On)) {
+        painter.setPen(QPen(option.palette.color(QPalette::Text), kHeavy));
         const std::array<QPointF, 3> tick = {box.topLeft() + QPointF(0.25, 0.52) * side,
                                              box.topLeft() + QPointF(0.43, 0.70) * side,
                                              box.topLeft() + QPointF(0.76, 0.30) * side};
         painter.drawPolyline(tick.data(), static_cast<int>(tick.size()));
     }
+    painter.restore();
+}
+
+void DrawRadioButton(QPainter& painter, const QStyleOption& option) {
+    painter.save();
+    const QRectF box = BeginIndicator(painter, option);
+    painter.drawEllipse(box.adjusted(0.5, 0.5, -0.5, -0.5));
+    if (option.state.testFlag(QStyle::State_On)) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(option.palette.color(QPalette::Text));
+        painter.drawEllipse(box.center(), box.width() / 4, box.width() / 4);
+    }
+    painter.restore();
+}
+
+// Around a box or a text that has the keyboard.
+void DrawFocus(QPainter& painter, const QStyleOption& option) {
+    if (!option.state.testFlag(QStyle::State_KeyboardFocusChange)) {
+        return;
+    }
+    const QRectF rect = option.rect;
+    const double inset = kHeavy / 2;
+    const double radius = std::min(kRadius, rect.height() / 5);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(option.palette.highlight().color(), kHeavy));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius, radius);
     painter.restore();
 }
 
@@ -158,12 +196,15 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
         return;
     case PE_FrameFocusRect:
         // Buttons show the focus as a ring of their own.
-        if (qobject_cast<const QPushButton*>(widget) != nullptr) {
-            return;
+        if (qobject_cast<const QPushButton*>(widget) == nullptr) {
+            DrawFocus(*painter, *option);
         }
-        break;
+        return;
     case PE_IndicatorCheckBox:
         DrawCheckBox(*painter, *option);
+        return;
+    case PE_IndicatorRadioButton:
+        DrawRadioButton(*painter, *option);
         return;
     case PE_PanelLineEdit:
         DrawLineEdit(*painter, *option);

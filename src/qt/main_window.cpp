@@ -29,7 +29,8 @@ MainWindow::MainWindow(Game& game)
     : game_(game),
       paletteTone_(ToneOf(QApplication::palette())),
       menus_(new MenuBar(game, this)),
-      content_(new WindowContent(game, this)) {
+      content_(new WindowContent(game, this)),
+      forms_(game, this) {
     setWindowTitle(u"Vemo Sudoku 2"_s);
     setWindowIcon(ApplicationIcon());
     setMenuBar(menus_);
@@ -53,6 +54,7 @@ void MainWindow::ShowScreen() {
     FollowAppearance();
     menus_->ShowScreen(game_.Current());
     content_->ShowScreen(game_.Current(), colors_);
+    forms_.ShowScreen(colors_);
 }
 
 void MainWindow::CloseUnasked() {

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include "game/game.h"
+#include "qt/forms.h"
 #include "qt/theme.h"
 
 namespace vemo {
@@ -31,6 +32,11 @@ class MainWindow final : public QMainWindow {
     // Closes without asking the game.
     void CloseUnasked();
 
+    // The windows beside this one.
+    void OpenForm(Form form) { forms_.Open(form, colors_); }
+    void CloseForm(Form form) { forms_.Close(form); }
+    Bytes HintPicture() const { return forms_.HintPicture(); }
+
     BoardWidget& Board() const;
     MenuBar& Menus() const { return *menus_; }
     const BoardColors& CurrentColors() const { return colors_; }
@@ -53,6 +59,7 @@ class MainWindow final : public QMainWindow {
     BoardColors colors_;
     MenuBar* menus_;
     WindowContent* content_;
+    Forms forms_;
     QTimer timer_;
     bool isClosing_ = false;
 };

@@ -6,12 +6,15 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 
 #include "game/menus.h"
 #include "qt/clock_bar.h"
 #include "qt/color_label.h"
 #include "qt/hint_panel.h"
 #include "qt/screen_text.h"
+#include "qt/sud_tekst.h"
+#include "qt/text_panel.h"
 
 namespace vemo {
 
@@ -35,6 +38,9 @@ constexpr std::array<CommandButton, kCommandButtons> kCommandTable = {{
 }};
 constexpr std::size_t kHintButton = 0;
 constexpr const char* kShowMeCaption = "Sho&w Me";
+
+// A hint is found before that: its button shall not turn into another under the mouse.
+constexpr int kStopAppears = 250;  // milliseconds
 
 QPushButton* MakeButton(const QString& name, const QString& caption, QWidget* parent) {
     auto* button = new QPushButton(caption, parent);
@@ -75,11 +81,25 @@ SideColumn::SideColumn(Game& game, QWidget* parent)
     link_->setToolTip(
         u"Draw links from mark to mark: strong with the left button, weak with the right (L)"_s);
     connect(link_, &QPushButton::clicked, this, [&game] { game.CommandLinkClick(); });
+    MakeMaking(game);
 }
 
 void SideColumn::ShowScreen(const Screen& screen, const BoardColors& colors) {
     clock_->ShowScreen(screen);
     hint_->ShowScreen(screen, colors);
+    sudTekst_->ShowScreen(screen);
+    ShowCommands(screen);
+    ShowParts(screen);
+    for (int digit = 1; digit <= kDigits; ++digit) {
+        digits_[static_cast<std::size_t>(digit - 1)]->setChecked(digit == screen.digitFilter);
+    }
+    for (ColorLabel* label : colors_) {
+        label->ShowState(screen, colors);
+    }
+    link_->setChecked(screen.isLinkMode);
+}
+
+void SideColumn::ShowCommands(const Screen& screen) {
     for (std::size_t index = 0; index < commands_.size(); ++index) {
         commands_[index]->setEnabled(screen.Command(kCommandTable[index].twin).isEnabled);
     }
@@ -90,13 +110,41 @@ void SideColumn::ShowScreen(const Screen& screen, const BoardColors& colors) {
     hint.setEnabled(hint.isEnabled() || isShowMe);
     // One button is what to press next.
     hint.setDefault(!screen.canApply);
-    for (int digit = 1; digit <= kDigits; ++digit) {
-        digits_[static_cast<std::size_t>(digit - 1)]->setChecked(digit == screen.digitFilter);
+    validate_->setEnabled(screen.Command(CommandId::SudokuValidate).isEnabled);
+    cancel_->setEnabled(screen.isMaking && screen.isBoardEnabled);
+}
+
+// Either the buttons of play or those of the making; what runs long enough can be stopped where it
+// was begun.
+void SideColumn::ShowParts(const Screen& screen) {
+    const bool isMaking = screen.isMaking;
+    const bool isRunning = screen.Command(CommandId::SolveStop).isEnabled;
+    if (!isRunning) {
+        stopDelay_.stop();
+        stop_->hide();
+    } else if (stop_->isHidden() && !stopDelay_.isActive()) {
+        stopDelay_.start();
     }
-    for (ColorLabel* label : colors_) {
-        label->ShowState(screen, colors);
+    for (QWidget* part : PartsOfPlay()) {
+        part->setHidden(isMaking);
     }
-    link_->setChecked(screen.isLinkMode);
+    making_->setVisible(isMaking);
+    cancel_->setVisible(isMaking);
+    const bool canStop = !stop_->isHidden();
+    validate_->setVisible(isMaking && !canStop);
+    commands_[kHintButton]->setVisible(!isMaking && !canStop);
+    if (isMaking != isMaking_) {
+        isMaking_ = isMaking;
+        Arrange();
+    }
+}
+
+std::vector<QWidget*> SideColumn::PartsOfPlay() const {
+    std::vector<QWidget*> parts = {digitCaption_, colorCaption_, link_};
+    parts.insert(parts.end(), commands_.begin() + kHintButton + 1, commands_.end());
+    parts.insert(parts.end(), digits_.begin(), digits_.end());
+    parts.insert(parts.end(), colors_.begin(), colors_.end());
+    return parts;
 }
 
 void SideColumn::SetScale(double scale) {
@@ -153,6 +201,33 @@ void SideColumn::MakeColors(Game& game) {
     }
 }
 
+void SideColumn::MakeMaking(Game& game) {
+    sudTekst_ = new SudTekst(game, this);
+    making_ = new TextPanel(sudTekst_, this);
+    validate_ = MakeButton(u"CommandValidate"_s, u"V&alidate"_s, this);
+    validate_->setToolTip(u"Check the sudoku, rate it and play it"_s);
+    validate_->setDefault(true);
+    connect(validate_, &QPushButton::clicked, this,
+            [&game] { game.Run(CommandId::SudokuValidate); });
+    cancel_ = MakeButton(u"CommandCancel"_s, u"&Cancel"_s, this);
+    cancel_->setToolTip(u"Give this sudoku up"_s);
+    connect(cancel_, &QPushButton::clicked, this, [&game] { game.CommandCancelClick(); });
+    stop_ = MakeButton(u"CommandStop"_s, u"Sto&p"_s, this);
+    // A button's own shortcut would show it pressed for a while before it acts.
+    auto* escape = new QShortcut(Qt::Key_Escape, stop_);
+    connect(escape, &QShortcut::activated, stop_, &QPushButton::click);
+    stop_->setToolTip(u"Stop (Esc)"_s);
+    stop_->setDefault(true);
+    stop_->hide();
+    connect(stop_, &QPushButton::clicked, this, [&game] { game.Run(CommandId::SolveStop); });
+    stopDelay_.setSingleShot(true);
+    stopDelay_.setInterval(kStopAppears);
+    connect(&stopDelay_, &QTimer::timeout, this, [this, &game] {
+        stop_->show();
+        ShowParts(game.Current());
+    });
+}
+
 ColumnTexts SideColumn::Texts() const {
     const QFontMetrics metrics = fontMetrics();
     ColumnTexts texts;
@@ -167,7 +242,7 @@ ColumnTexts SideColumn::Texts() const {
 void SideColumn::Arrange() {
     const ColumnPlan plan = PlanColumn(size(), Texts());
     clock_->setGeometry(plan.clock);
-    hint_->setGeometry(plan.hint);
+    hint_->setGeometry(isMaking_ ? plan.hintOfMaking : plan.hint);
     for (std::size_t index = 0; index < commands_.size(); ++index) {
         commands_[index]->setGeometry(plan.commands[index]);
     }
@@ -180,6 +255,10 @@ void SideColumn::Arrange() {
         colors_[index]->setGeometry(plan.colors[index]);
     }
     link_->setGeometry(plan.link);
+    making_->setGeometry(plan.making);
+    validate_->setGeometry(plan.validate);
+    cancel_->setGeometry(plan.cancel);
+    stop_->setGeometry(isMaking_ ? plan.validate : plan.commands[kHintButton]);
 }
 
 }  // namespace vemo

@@ -1,8 +1,11 @@
-// The column beside the board: clock, hint, command buttons, digit filters, colours.
+// The column beside the board: clock, hint, command buttons, digit filters, colours; while a puzzle
+// is made, its text box with the buttons of the making.
 #pragma once
 
 #include <array>
+#include <vector>
 
+#include <QTimer>
 #include <QWidget>
 
 #include "game/game.h"
@@ -17,6 +20,8 @@ namespace vemo {
 class ClockBar;
 class ColorLabel;
 class HintPanel;
+class SudTekst;
+class TextPanel;
 
 class SideColumn final : public QWidget {
   public:
@@ -34,6 +39,11 @@ class SideColumn final : public QWidget {
     void MakeCommands(Game& game);
     void MakeDigits(Game& game);
     void MakeColors(Game& game);
+    void MakeMaking(Game& game);
+    void ShowCommands(const Screen& screen);
+    void ShowParts(const Screen& screen);
+    // All that a making hides but the Hint button.
+    std::vector<QWidget*> PartsOfPlay() const;
     ColumnTexts Texts() const;
     void Arrange();
 
@@ -45,6 +55,13 @@ class SideColumn final : public QWidget {
     QLabel* colorCaption_;
     std::array<ColorLabel*, kBrushColors> colors_{};
     QPushButton* link_;
+    SudTekst* sudTekst_;
+    TextPanel* making_;
+    QPushButton* validate_;
+    QPushButton* cancel_;
+    QPushButton* stop_;
+    QTimer stopDelay_;
+    bool isMaking_ = false;
     double scale_ = 1;
 };
 

@@ -1,105 +1,72 @@
 // What the game asks of its window.
 #include "qt/window_view.h"
 
-#include <span>
-
 #include <QApplication>
 #include <QDesktopServices>
 #include <QEventLoop>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
 
 #include "qt/main_window.h"
+#include "qt/message_box.h"
 #include "qt/screen_text.h"
 
 namespace vemo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-// What a window manager may need beside a title: a bolder font, in percent, and its buttons.
-constexpr int kBoldTitle = 120;
-constexpr int kTitleButtons = 100;
-
 constexpr int kYieldMilliseconds = 15;
-
-struct BoxButton {
-    QMessageBox::StandardButton button;
-    Answer answer;
-};
-
-// The first is pressed by Enter, the last by Esc or by closing the box.
-constexpr std::array kOk = {BoxButton{QMessageBox::Ok, Answer::Ok}};
-constexpr std::array kYesNo = {BoxButton{QMessageBox::Yes, Answer::Yes},
-                               BoxButton{QMessageBox::No, Answer::No}};
-constexpr std::array kAbortRetryIgnore = {BoxButton{QMessageBox::Retry, Answer::Retry},
-                                          BoxButton{QMessageBox::Abort, Answer::Abort},
-                                          BoxButton{QMessageBox::Ignore, Answer::Ignore}};
-
-std::span<const BoxButton> ButtonsOf(BoxButtons buttons) {
-    switch (buttons) {
-    case BoxButtons::YesNo:
-        return kYesNo;
-    case BoxButtons::AbortRetryIgnore:
-        return kAbortRetryIgnore;
-    case BoxButtons::Ok:
-        break;
-    }
-    return kOk;
-}
-
-// A short text would make the box too narrow for its title. A long one is wrapped by the box, as
-// long as its label has no width of its own.
-void LeaveRoomForTitle(QMessageBox& message) {
-    auto* label = message.findChild<QLabel*>(u"qt_msgbox_label"_s);
-    const QFontMetrics metrics = message.fontMetrics();
-    const int title =
-        metrics.horizontalAdvance(message.windowTitle()) * kBoldTitle / 100 + kTitleButtons;
-    if (label != nullptr && metrics.size(0, message.text()).width() < title) {
-        label->setMinimumWidth(title);
-    }
-}
 
 }  // namespace
 
 Answer WindowView::ShowBox(const Box& box) {
     ShowWindow();
-    const std::span<const BoxButton> buttons = ButtonsOf(box.buttons);
-    QMessageBox message(window_);
-    message.setWindowTitle(ToQString(box.title));
-    message.setTextFormat(Qt::PlainText);
-    message.setText(ToQString(box.text));
-    message.setIcon(box.icon == BoxIcon::Warning ? QMessageBox::Warning : QMessageBox::NoIcon);
-    for (const BoxButton& button : buttons) {
-        message.addButton(button.button);
-    }
-    message.setDefaultButton(buttons.front().button);
-    message.setEscapeButton(buttons.back().button);
-    LeaveRoomForTitle(message);
-    const int pressed = message.exec();
-    for (const BoxButton& button : buttons) {
-        if (button.button == pressed) {
-            return button.answer;
-        }
-    }
-    return buttons.back().answer;
+    return ShowMessage(box, Asking());
 }
 
 std::optional<std::string> WindowView::Ask(const Question& question) {
     ShowWindow();
     bool isAnswered = false;
     const QString answer =
-        QInputDialog::getText(window_, ToQString(question.title), ToQString(question.prompt),
+        QInputDialog::getText(Asking(), ToQString(question.title), ToQString(question.prompt),
                               QLineEdit::Normal, ToQString(question.suggestion), &isAnswered);
     if (!isAnswered) {
         return std::nullopt;
     }
     return answer.toStdString();
+}
+
+// A name without an extension gets that of the suggested one.
+std::optional<std::filesystem::path> WindowView::AskSaveFile(const SaveQuestion& question) {
+    ShowWindow();
+    const QString fileName = ToQString(question.fileName);
+    QFileDialog dialog(Asking(), ToQString(question.title),
+                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                       ToQString(question.kind));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QFileInfo(fileName).suffix());
+    dialog.selectFile(fileName);
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return dialog.selectedFiles().constFirst().toStdU16String();
+}
+
+void WindowView::OpenForm(Form form) {
+    window_->OpenForm(form);
+}
+
+void WindowView::CloseForm(Form form) {
+    window_->CloseForm(form);
+}
+
+Bytes WindowView::HintPicture() {
+    return window_->HintPicture();
 }
 
 // Long functions yield before every search, far more often than anybody can see or click.
@@ -139,6 +106,11 @@ void WindowView::Close() {
     if (window_ != nullptr) {
         window_->CloseUnasked();
     }
+}
+
+QWidget* WindowView::Asking() const {
+    QWidget* active = QApplication::activeWindow();
+    return active != nullptr ? active : window_;
 }
 
 void WindowView::ShowWindow() {

@@ -5,6 +5,8 @@
 
 #include "game/view.h"
 
+class QWidget;
+
 namespace vemo {
 
 class MainWindow;
@@ -19,6 +21,10 @@ class WindowView final : public View {
 
     Answer ShowBox(const Box& box) override;
     std::optional<std::string> Ask(const Question& question) override;
+    std::optional<std::filesystem::path> AskSaveFile(const SaveQuestion& question) override;
+    void OpenForm(Form form) override;
+    void CloseForm(Form form) override;
+    Bytes HintPicture() override;
     void Yield() override;
     void Pause(int milliseconds, const std::function<bool()>& isOver) override;
     void Refresh() override;
@@ -29,6 +35,8 @@ class WindowView final : public View {
   private:
     // A box asks over its window, not over nothing.
     void ShowWindow();
+    // The window that a question comes from.
+    QWidget* Asking() const;
 
     MainWindow* window_ = nullptr;
     QElapsedTimer sinceYield_;

@@ -476,6 +476,31 @@ TEST_F(MakerTest, AValidPuzzleIsRatedStoredAndPlayed) {
     EXPECT_EQ(Seen().cells[2].digit, 4);
 }
 
+TEST_F(MakerTest, CancellingAsksOnlyWhereThereAreClues) {
+    const std::string question = "Do you want to abort the making of this sudoku ?";
+    Make();
+    game->CommandCancelClick();
+    ExpectNoPuzzle();
+    MakeOf(kEasy);
+    view.Expect("Make", question, Answer::No);
+    game->CommandCancelClick();
+    ExpectMaking(kEasy, ParseDigits(kEasy));
+    view.Expect("Make", question, Answer::Yes);
+    game->CommandCancelClick();
+    ExpectNoPuzzle();
+    // Outside the making there is nothing to cancel.
+    OpenFirst(1);
+    game->CommandCancelClick();
+    EXPECT_EQ(Seen().cells[2].digit, 3);
+}
+
+TEST_F(MakerTest, ADigitThatStoodOutDoesSoNoLonger) {
+    OpenFirst(1);
+    game->Command1Click(4);
+    Make();
+    EXPECT_EQ(Seen().digitFilter, 0);
+}
+
 TEST_F(MakerTest, StopEndsTheValidationWithoutABox) {
     MakeOf(kOutlawed);
     const std::string before = Seen().textHint;

@@ -52,6 +52,13 @@ class ScriptedView final : public View {
         questions.push_back(question);
         return Next(question.title, question.prompt).reply;
     }
+    std::optional<std::filesystem::path> AskSaveFile(const SaveQuestion& question) override {
+        EXPECT_EQ(question.fileName, expectedFileName);
+        return saveAs;
+    }
+    void OpenForm(Form form) override { opened.push_back(form); }
+    void CloseForm(Form form) override { closed.push_back(form); }
+    Bytes HintPicture() override { return picture; }
     void Yield() override {
         ++yields;
         if (onYield) {
@@ -76,6 +83,11 @@ class ScriptedView final : public View {
     std::vector<Question> questions;  // all that were asked
     std::string link;
     bool isClosed = false;
+    std::string expectedFileName;  // of the next question where to save
+    std::optional<std::filesystem::path> saveAs;
+    std::vector<Form> opened;
+    std::vector<Form> closed;
+    Bytes picture;
 
   private:
     struct Shown {

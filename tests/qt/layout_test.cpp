@@ -91,13 +91,7 @@ void LayoutTest::EverythingHasItsRoom() {
     WindowFixture fixture(QStringLiteral(VEMO_ASSETS));
     fixture.window.resize(size);
     QCOMPARE(fixture.window.size(), size);
-    for (const bool isOpen : {false, true}) {
-        if (isOpen) {
-            fixture.OpenFirstEasy();
-            QTest::mouseClick(&fixture.Find<QAbstractButton>("LabelColor0"), Qt::LeftButton);
-            QTest::mouseClick(&fixture.Find<QAbstractButton>("LabelColor9"), Qt::RightButton);
-            fixture.game.CommandHintClick();
-        }
+    const auto check = [&] {
         QCOMPARE(Overlaps(fixture.window).join(u'\n'), QString());
         QCOMPARE(CutTexts(fixture.window).join(u'\n'), QString());
         const BoardWidget& board = fixture.window.Board();
@@ -105,7 +99,18 @@ void LayoutTest::EverythingHasItsRoom() {
         QVERIFY(board.rect().contains(board.BoardRect()));
         // The board is the thing.
         QVERIFY(board.BoardRect().width() * 2 > std::min(size.width(), size.height()));
-    }
+    };
+    check();
+    fixture.OpenFirstEasy();
+    QTest::mouseClick(&fixture.Find<QAbstractButton>("LabelColor0"), Qt::LeftButton);
+    QTest::mouseClick(&fixture.Find<QAbstractButton>("LabelColor9"), Qt::RightButton);
+    fixture.game.CommandHintClick();
+    check();
+    fixture.game.mnuSudokuMake();
+    check();
+    // Three lines of the text can be seen at least.
+    const auto& text = fixture.Find<QPlainTextEdit>("SudTekst");
+    QVERIFY(text.viewport()->height() >= 3 * text.fontMetrics().lineSpacing());
 }
 
 void LayoutTest::TheColumnGoesBelowInATallWindow() {

@@ -1,0 +1,13 @@
+// The question for a printer, or for a PDF file.
+#pragma once
+
+class QPrinter;
+class QString;
+class QWidget;
+
+namespace vemo {
+
+// False where the player cancels. `document` names what is printed.
+bool AskPrinter(QPrinter& printer, const QString& document, QWidget* parent);
+
+}  // namespace vemo

@@ -1,0 +1,152 @@
+// The window of the solve log.
+#include "qt/form_log.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QFontDatabase>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPrinter>
+#include <QScrollBar>
+
+#include "qt/ask_printer.h"
+#include "qt/find_bar.h"
+#include "qt/message_box.h"
+#include "qt/print_text.h"
+#include "qt/screen_text.h"
+#include "qt/text_panel.h"
+
+namespace vemo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize kSize(600, 600);
+constexpr int kMargin = 8;
+constexpr int kDelay = 40;          // milliseconds
+constexpr double kPageMargin = 15;  // millimetres
+
+QPlainTextEdit* MakeText(QWidget* parent) {
+    auto* text = new QPlainTextEdit(parent);
+    text->setObjectName(u"TextLog"_s);
+    text->setAccessibleName(u"Solve log"_s);
+    text->setPlaceholderText(
+        u"The log is empty. Autosolve and Scan, both in the menu Solve of the main window, write "
+        "each of their steps into it."_s);
+    text->setReadOnly(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text->setUndoRedoEnabled(false);
+    text->setTabChangesFocus(true);
+    text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    return text;
+}
+
+}  // namespace
+
+FormLog::FormLog(Game& game, QWidget* parent) : FormWindow(game, Form::FormLog, parent) {
+    setObjectName(u"FormLog"_s);
+    setWindowTitle(u"Solve log"_s);
+    auto* content = new QWidget(this);
+    text_ = MakeText(content);
+    find_ = new FindBar(*text_, content);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(kMargin);
+    column->addWidget(new TextPanel(text_, content), 1);
+    column->addWidget(find_);
+    setCentralWidget(content);
+    MakeWindowMenu();
+    MakeEditMenu();
+    delay_.setSingleShot(true);
+    delay_.setInterval(kDelay);
+    connect(&delay_, &QTimer::timeout, this, [this] { AppendNew(); });
+    resize(kSize);
+    text_->setFocus();
+}
+
+void FormLog::ShowScreen() {
+    const bool isBusy = CurrentGame().CurrentSession().IsBusy();
+    if (!isBusy) {
+        AppendNew();
+    } else if (!delay_.isActive()) {
+        delay_.start();
+    }
+    const bool isEmpty = CurrentGame().SolveLogText().empty();
+    const bool isUsable = !isEmpty && !isBusy;
+    save_->setEnabled(isUsable);
+    print_->setEnabled(isUsable);
+    selectAll_->setEnabled(!isEmpty);
+    openFind_->setEnabled(!isEmpty);
+}
+
+void FormLog::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && find_->isVisible()) {
+        find_->Close();
+    } else {
+        FormWindow::keyPressEvent(event);
+    }
+}
+
+void FormLog::MakeWindowMenu() {
+    QMenu* menu = menuBar()->addMenu(u"&Window"_s);
+    Game& game = CurrentGame();
+    save_ = menu->addAction(u"Save &As..."_s, QKeySequence(u"Ctrl+S"_s), this,
+                            [&game] { game.mnuLogSave(); });
+    print_ = menu->addAction(u"&Print..."_s, QKeySequence(u"Ctrl+P"_s), this, [this] { Print(); });
+    menu->addSeparator();
+    menu->addAction(u"&Close Window"_s, QKeySequence(u"Ctrl+W"_s), this, [this] { close(); });
+}
+
+void FormLog::MakeEditMenu() {
+    QMenu* menu = menuBar()->addMenu(u"&Edit"_s);
+    QAction* copy =
+        menu->addAction(u"&Copy"_s, QKeySequence(u"Ctrl+C"_s), text_, [this] { text_->copy(); });
+    copy->setEnabled(false);
+    connect(text_, &QPlainTextEdit::copyAvailable, copy, &QAction::setEnabled);
+    selectAll_ = menu->addAction(u"Select &All"_s, QKeySequence(u"Ctrl+A"_s), text_,
+                                 [this] { text_->selectAll(); });
+    menu->addSeparator();
+    openFind_ =
+        menu->addAction(u"&Find..."_s, QKeySequence(u"Ctrl+F"_s), this, [this] { find_->Open(); });
+}
+
+// Only what the log has grown by is put into the text box.
+void FormLog::AppendNew() {
+    const std::string& log = CurrentGame().SolveLogText();
+    if (log.size() == shown_) {
+        return;
+    }
+    QScrollBar& bar = *text_->verticalScrollBar();
+    const bool isAtEnd = bar.value() == bar.maximum();
+    QTextCursor end(text_->document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(ToQString(std::string_view(log).substr(shown_)));
+    shown_ = log.size();
+    if (isAtEnd) {
+        bar.setValue(bar.maximum());
+    }
+}
+
+void FormLog::Print() {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageMargins(QMarginsF(kPageMargin, kPageMargin, kPageMargin, kPageMargin),
+                           QPageLayout::Millimeter);
+    if (!AskPrinter(printer, windowTitle(), this)) {
+        return;
+    }
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const int pages = PrintText(printer, windowTitle(), text_->toPlainText());
+    QApplication::restoreOverrideCursor();
+    if (pages == 0) {
+        const QString where = printer.outputFileName();
+        const QString name = where.isEmpty() ? printer.printerName() : where;
+        ShowMessage({"Print", "The solve log cannot be printed: " + name.toStdString(),
+                     BoxButtons::Ok, BoxIcon::Warning},
+                    this);
+    }
+}
+
+}  // namespace vemo

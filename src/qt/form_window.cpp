@@ -1,0 +1,54 @@
+// What the windows beside the main window share.
+#include "qt/form_window.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScreen>
+
+namespace vemo {
+
+FormWindow::FormWindow(Game& game, Form form, QWidget* parent)
+    : QMainWindow(parent), game_(game), form_(form) {}
+
+void FormWindow::Open(Focus focus) {
+    setAttribute(Qt::WA_ShowWithoutActivating, focus == Focus::Kept);
+    if (!isVisible()) {
+        StandBeside();
+    }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    if (focus == Focus::Taken) {
+        activateWindow();
+    }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    game_.FormUnload(form_);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
+// To the right of the main window as far as the desk goes, so that the board stays in sight.
+void FormWindow::StandBeside() {
+    if (testAttribute(Qt::WA_Moved)) {
+        return;
+    }
+    const QRect desk = parentWidget()->screen()->availableGeometry();
+    const QRect main = parentWidget()->frameGeometry();
+    // Its own frame is known only when it has been shown.
+    const QSize frame = main.size() - parentWidget()->size();
+    resize(size().boundedTo(desk.size() - frame));
+    const int left = std::min(main.right() + 1, desk.right() + 1 - width() - frame.width());
+    const int top = std::min(main.top(), desk.bottom() + 1 - height() - frame.height());
+    move(std::max(left, desk.left()), std::max(top, desk.top()));
+}
+
+}  // namespace vemo

@@ -1,0 +1,34 @@
+// What the windows beside the main window share: each tells the game when it has been closed,
+// goes with the main window, and closes on Esc.
+#pragma once
+
+#include <QMainWindow>
+
+#include "game/game.h"
+
+namespace vemo {
+
+class FormWindow : public QMainWindow {
+  public:
+    // The game outlives the window. `parent` is the main window.
+    FormWindow(Game& game, Form form, QWidget* parent);
+
+    // Shows it, or brings it to the front. The main window keeps the keyboard unless
+    // `Focus::Taken`.
+    enum class Focus : std::uint8_t { Kept, Taken };
+    void Open(Focus focus);
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+    Game& CurrentGame() const { return game_; }
+
+  private:
+    void StandBeside();
+
+    Game& game_;
+    Form form_;
+};
+
+}  // namespace vemo

@@ -1,0 +1,76 @@
+// The windows beside the main window.
+#include "qt/forms.h"
+
+#include "qt/form_hint.h"
+#include "qt/form_log.h"
+#include "qt/solve_tech_window.h"
+
+namespace vemo {
+namespace {
+
+template <typename Window>
+Window& Made(Window*& window, Game& game, QWidget* mainWindow) {
+    if (window == nullptr) {
+        window = new Window(game, mainWindow);
+    }
+    return *window;
+}
+
+bool IsOpen(const QWidget* window) {
+    return window != nullptr && window->isVisible();
+}
+
+void CloseOpen(QWidget* window) {
+    if (IsOpen(window)) {
+        window->close();
+    }
+}
+
+}  // namespace
+
+void Forms::Open(Form form, const BoardColors& colors) {
+    switch (form) {
+    case Form::FormHint:
+        Made(hint_, game_, mainWindow_).Open(FormWindow::Focus::Kept);
+        break;
+    case Form::FormLog:
+        Made(log_, game_, mainWindow_).Open(FormWindow::Focus::Taken);
+        break;
+    case Form::SolveTech:
+        Made(solveTech_, game_, mainWindow_).Open(FormWindow::Focus::Taken);
+        break;
+    }
+    ShowScreen(colors);
+}
+
+void Forms::Close(Form form) {
+    switch (form) {
+    case Form::FormHint:
+        CloseOpen(hint_);
+        break;
+    case Form::FormLog:
+        CloseOpen(log_);
+        break;
+    case Form::SolveTech:
+        CloseOpen(solveTech_);
+        break;
+    }
+}
+
+void Forms::ShowScreen(const BoardColors& colors) {
+    if (IsOpen(hint_)) {
+        hint_->ShowScreen(colors);
+    }
+    if (IsOpen(log_)) {
+        log_->ShowScreen();
+    }
+    if (IsOpen(solveTech_)) {
+        solveTech_->ShowScreen();
+    }
+}
+
+Bytes Forms::HintPicture() const {
+    return IsOpen(hint_) ? hint_->Picture() : Bytes();
+}
+
+}  // namespace vemo

@@ -1,0 +1,35 @@
+// The windows beside the main window, each made when it is first opened.
+#pragma once
+
+#include "game/game.h"
+#include "qt/theme.h"
+
+class QWidget;
+
+namespace vemo {
+
+class FormHint;
+class FormLog;
+class SolveTechWindow;
+
+class Forms {
+  public:
+    // The game and the main window outlive the forms; the main window owns them.
+    Forms(Game& game, QWidget* mainWindow) : game_(game), mainWindow_(mainWindow) {}
+
+    void Open(Form form, const BoardColors& colors);
+    void Close(Form form);
+    // The game's state as it is now, in the windows that are open.
+    void ShowScreen(const BoardColors& colors);
+    // As View::HintPicture.
+    Bytes HintPicture() const;
+
+  private:
+    Game& game_;
+    QWidget* mainWindow_;
+    FormHint* hint_ = nullptr;
+    FormLog* log_ = nullptr;
+    SolveTechWindow* solveTech_ = nullptr;
+};
+
+}  // namespace vemo
