@@ -255,11 +255,11 @@ void Game::mnuSolveSolution() {
 }
 
 void Game::mnuSolveManager() {
-    stage_.view.OpenForm(Form::SolveTech);
+    stage_.view.OpenForm(Form::SolveTech, Keyboard::Follows);
 }
 
 void Game::mnuSolveLog() {
-    stage_.view.OpenForm(Form::FormLog);
+    stage_.view.OpenForm(Form::FormLog, Keyboard::Follows);
 }
 
 void Game::mnuSolveAutoSolve() {

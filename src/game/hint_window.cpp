@@ -159,7 +159,7 @@ void ShowHint(Stage& stage) {
     CopyBoard(stage);
     stage.session.textHint = DoubleClickText();
     stage.hintWindow.isOpen = true;
-    stage.view.OpenForm(Form::FormHint);
+    stage.view.OpenForm(Form::FormHint, Keyboard::Stays);
 }
 
 HintWindow MakeHintWindow(const Stage& stage) {
@@ -181,7 +181,7 @@ void OpenHintWindow(Stage& stage) {
         session.textHint = DoubleClickText();
     }
     stage.hintWindow.isOpen = true;
-    stage.view.OpenForm(Form::FormHint);
+    stage.view.OpenForm(Form::FormHint, Keyboard::Follows);
 }
 
 void RefreshHintWindow(Stage& stage) {

@@ -40,6 +40,8 @@ struct SaveQuestion {
 
 // The windows that stand beside the main window.
 enum class Form : std::uint8_t { FormHint, FormLog, SolveTech };
+// Whether a window takes the keyboard when it comes: where the player asked for it.
+enum class Keyboard : std::uint8_t { Stays, Follows };
 
 class View {
   public:
@@ -53,7 +55,7 @@ class View {
 
     // Shows a window, or brings it to the front; waits for nothing. Whatever closes it later, the
     // game hears of it by `FormUnload`.
-    virtual void OpenForm(Form form) = 0;
+    virtual void OpenForm(Form form, Keyboard keyboard) = 0;
     virtual void CloseForm(Form form) = 0;
     // The hint window as it would be seen, as a BMP file. Empty where it is not open.
     virtual Bytes HintPicture() = 0;

@@ -36,7 +36,7 @@ class DemoView final : public View {
     std::optional<std::filesystem::path> AskSaveFile(const SaveQuestion&) override {
         return std::nullopt;
     }
-    void OpenForm(Form) override {}
+    void OpenForm(Form, Keyboard) override {}
     void CloseForm(Form) override {}
     Bytes HintPicture() override { return {}; }
     void Yield() override {}

@@ -5,20 +5,30 @@
 #include <QKeyEvent>
 #include <QScreen>
 
+#include "qt/keys.h"
+
 namespace vemo {
+namespace {
+
+// What the player may want wherever the keyboard is: the next hint, and the clock.
+bool IsOfEveryWindow(const KeyAction& action) {
+    return action.kind == KeyAction::Kind::Hint || action.kind == KeyAction::Kind::Pause;
+}
+
+}  // namespace
 
 FormWindow::FormWindow(Game& game, Form form, QWidget* parent)
     : QMainWindow(parent), game_(game), form_(form) {}
 
-void FormWindow::Open(Focus focus) {
-    setAttribute(Qt::WA_ShowWithoutActivating, focus == Focus::Kept);
+void FormWindow::Open(Keyboard keyboard) {
+    setAttribute(Qt::WA_ShowWithoutActivating, keyboard == Keyboard::Stays);
     if (!isVisible()) {
         StandBeside();
     }
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
-    if (focus == Focus::Taken) {
+    if (keyboard == Keyboard::Follows) {
         activateWindow();
     }
 }
@@ -29,8 +39,11 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
+    const std::optional<KeyAction> action = ActionOf(*event);
     if (event->key() == Qt::Key_Escape) {
         close();
+    } else if (action && IsOfEveryWindow(*action)) {
+        Do(game_, *action);
     } else {
         QMainWindow::keyPressEvent(event);
     }

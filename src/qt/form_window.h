@@ -13,10 +13,8 @@ class FormWindow : public QMainWindow {
     // The game outlives the window. `parent` is the main window.
     FormWindow(Game& game, Form form, QWidget* parent);
 
-    // Shows it, or brings it to the front. The main window keeps the keyboard unless
-    // `Focus::Taken`.
-    enum class Focus : std::uint8_t { Kept, Taken };
-    void Open(Focus focus);
+    // Shows it, or brings it to the front.
+    void Open(Keyboard keyboard);
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -28,16 +28,16 @@ void CloseOpen(QWidget* window) {
 
 }  // namespace
 
-void Forms::Open(Form form, const BoardColors& colors) {
+void Forms::Open(Form form, Keyboard keyboard, const BoardColors& colors) {
     switch (form) {
     case Form::FormHint:
-        Made(hint_, game_, mainWindow_).Open(FormWindow::Focus::Kept);
+        Made(hint_, game_, mainWindow_).Open(keyboard);
         break;
     case Form::FormLog:
-        Made(log_, game_, mainWindow_).Open(FormWindow::Focus::Taken);
+        Made(log_, game_, mainWindow_).Open(keyboard);
         break;
     case Form::SolveTech:
-        Made(solveTech_, game_, mainWindow_).Open(FormWindow::Focus::Taken);
+        Made(solveTech_, game_, mainWindow_).Open(keyboard);
         break;
     }
     ShowScreen(colors);

@@ -17,7 +17,7 @@ class Forms {
     // The game and the main window outlive the forms; the main window owns them.
     Forms(Game& game, QWidget* mainWindow) : game_(game), mainWindow_(mainWindow) {}
 
-    void Open(Form form, const BoardColors& colors);
+    void Open(Form form, Keyboard keyboard, const BoardColors& colors);
     void Close(Form form);
     // The game's state as it is now, in the windows that are open.
     void ShowScreen(const BoardColors& colors);

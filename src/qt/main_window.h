@@ -33,7 +33,7 @@ class MainWindow final : public QMainWindow {
     void CloseUnasked();
 
     // The windows beside this one.
-    void OpenForm(Form form) { forms_.Open(form, colors_); }
+    void OpenForm(Form form, Keyboard keyboard) { forms_.Open(form, keyboard, colors_); }
     void CloseForm(Form form) { forms_.Close(form); }
     Bytes HintPicture() const { return forms_.HintPicture(); }
 

@@ -57,8 +57,8 @@ std::optional<std::filesystem::path> WindowView::AskSaveFile(const SaveQuestion&
     return dialog.selectedFiles().constFirst().toStdU16String();
 }
 
-void WindowView::OpenForm(Form form) {
-    window_->OpenForm(form);
+void WindowView::OpenForm(Form form, Keyboard keyboard) {
+    window_->OpenForm(form, keyboard);
 }
 
 void WindowView::CloseForm(Form form) {

@@ -22,7 +22,7 @@ class WindowView final : public View {
     Answer ShowBox(const Box& box) override;
     std::optional<std::string> Ask(const Question& question) override;
     std::optional<std::filesystem::path> AskSaveFile(const SaveQuestion& question) override;
-    void OpenForm(Form form) override;
+    void OpenForm(Form form, Keyboard keyboard) override;
     void CloseForm(Form form) override;
     Bytes HintPicture() override;
     void Yield() override;

@@ -56,7 +56,7 @@ class ScriptedView final : public View {
         EXPECT_EQ(question.fileName, expectedFileName);
         return saveAs;
     }
-    void OpenForm(Form form) override { opened.push_back(form); }
+    void OpenForm(Form form, Keyboard) override { opened.push_back(form); }
     void CloseForm(Form form) override { closed.push_back(form); }
     Bytes HintPicture() override { return picture; }
     void Yield() override {

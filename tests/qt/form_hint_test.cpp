@@ -58,6 +58,7 @@ class FormHintTest final : public QObject {
 
     void AHintOpensItWithTheOption();
     void ADoubleClickOrEnterOpensIt();
+    void TheKeysOfTheGameWorkInIt();
     void ItsCopyIsRefreshed();
     void ItIsClosedByEveryMeans();
     void ItsPictureIsSaved();
@@ -162,6 +163,17 @@ void FormHintTest::ADoubleClickOrEnterOpensIt() {
     QWidget& panel = *SmallText().parentWidget();
     QTest::mouseDClick(&panel, Qt::LeftButton, {}, panel.rect().bottomRight() - QPoint(20, 20));
     QVERIFY(IsOpen());
+}
+
+void FormHintTest::TheKeysOfTheGameWorkInIt() {
+    Open();
+    const int steps = fixture_->game.CurrentSession().history.StepCount();
+    Press(Qt::Key_F12, Qt::NoModifier);  // carries the hint out
+    QCOMPARE(fixture_->game.CurrentSession().history.StepCount(), steps + 1);
+    Press(Qt::Key_F12, Qt::NoModifier);  // asks for the next one
+    QVERIFY(fixture_->game.CurrentSession().hint.has_value());
+    Press(Qt::Key_Pause, Qt::NoModifier);
+    QVERIFY(fixture_->Shown().isBoardCovered);
 }
 
 void FormHintTest::ItsCopyIsRefreshed() {
