@@ -1,10 +1,11 @@
 // Checks every find of every step against the puzzle's solution.
-//     soundness [--seed N] FILE...
-// Each puzzle is walked with the fixed ladder. At every state all steps search, the one outside the
-// ladder too: on the candidates as they are, and once more without some wrong candidates chosen at
-// random, as a player may have removed them. Prints a table by technique; exits with 1 where any
-// find contradicts a solution (the Bivalue Universal Grave is counted, but no fault: its rule is
-// known to fail in rare positions).
+//     soundness [--seed N] [--random COUNT] [FILE...]
+// The puzzles are those of the files, and COUNT made at random. Each is walked with the fixed
+// ladder. At every state all steps search, the one outside the ladder too: on the candidates as
+// they are, and once more without some wrong candidates chosen at random, as a player may have
+// removed them. Prints a table by technique; exits with 1 where any find contradicts a solution
+// (the Bivalue Universal Grave is counted, but no fault: its rule is known to fail in rare
+// positions).
 #include <array>
 #include <cstdio>
 #include <string>
@@ -14,6 +15,7 @@
 #include "puzzle_list.h"
 #include "solver/brute_force.h"
 #include "solver/solver.h"
+#include "tools/level_maker.h"
 #include "tools/random.h"
 
 namespace vemo {
@@ -135,43 +137,75 @@ long PrintTable(const Tallies& tallies) {
 }
 
 int Usage(const std::string& error) {
-    std::cerr << error << "\nusage: soundness [--seed N] FILE...\n";
+    std::cerr << error << "\nusage: soundness [--seed N] [--random COUNT] [FILE...]\n";
     return 2;
 }
 
-int Main(const std::vector<std::string>& words) {
-    static constexpr Option kOptions[] = {{"--seed", "N", ""}};
-    const ParsedArguments parsed = ParseArguments(words, kOptions);
-    const auto seed =
-        WholeNumber(parsed.arguments.ValueOf("--seed").value_or("1"), 0, ~std::uint64_t{0});
-    if (!parsed.error.empty() || !seed || parsed.arguments.operands.empty()) {
-        return Usage(!parsed.error.empty() ? parsed.error
-                     : !seed               ? "--seed is a number"
-                                           : "FILE is missing");
+// A whole run over some puzzles.
+struct Run {
+    explicit Run(std::uint64_t seed) : random(seed) {}
+
+    void Judge(const Digits& clues, const Digits& solution) {
+        ++puzzles;
+        states += JudgePuzzle(clues, solution, ladder, random, tallies);
     }
-    Random random(*seed);
-    const Ladder ladder = FixedLadder();
+
+    Random random;
+    Ladder ladder = FixedLadder();
     Tallies tallies;
-    long puzzleCount = 0;
+    long puzzles = 0;
     long states = 0;
+};
+
+bool JudgeFile(const std::string& name, Run& run) {
+    const auto puzzles = ReadPuzzleList(name);
+    if (!puzzles) {
+        return false;
+    }
+    for (const Digits& clues : *puzzles) {
+        const BruteForceResult known = BruteForceSolve(clues);
+        if (known.IsUnique()) {
+            run.Judge(clues, known.solution);
+        } else {
+            std::cerr << name << ": passed over, not one solution: " << WriteGrid81(clues) << '\n';
+        }
+    }
+    return true;
+}
+
+// As few clues as go, in half of the puzzles; a few more, and so more states, in the others.
+void JudgeRandomPuzzles(std::uint64_t count, Run& run) {
+    for (std::uint64_t made = 0; made < count; ++made) {
+        const Digits solution = RandomSolution(run.random);
+        const int fewest = made % 2 == 0 ? 0 : 26;
+        run.Judge(DigClues(solution, Symmetry::None, fewest, run.random), solution);
+    }
+}
+
+int Main(const std::vector<std::string>& words) {
+    static constexpr Option kOptions[] = {{"--seed", "N", ""}, {"--random", "COUNT", ""}};
+    const ParsedArguments parsed = ParseArguments(words, kOptions);
+    const auto numberOf = [&](const char* option, const char* fallback) {
+        return WholeNumber(parsed.arguments.ValueOf(option).value_or(fallback), 0,
+                           ~std::uint64_t{0});
+    };
+    const auto seed = numberOf("--seed", "1");
+    const auto count = numberOf("--random", "0");
+    if (!parsed.error.empty() || !seed || !count) {
+        return Usage(parsed.error.empty() ? "--seed and --random are numbers" : parsed.error);
+    }
+    if (*count == 0 && parsed.arguments.operands.empty()) {
+        return Usage("FILE is missing");
+    }
+    Run run(*seed);
     for (const std::string& name : parsed.arguments.operands) {
-        const auto puzzles = ReadPuzzleList(name);
-        if (!puzzles) {
+        if (!JudgeFile(name, run)) {
             return 3;
         }
-        for (const Digits& clues : *puzzles) {
-            const BruteForceResult known = BruteForceSolve(clues);
-            if (!known.IsUnique()) {
-                std::cerr << name << ": passed over, not one solution: " << WriteGrid81(clues)
-                          << '\n';
-                continue;
-            }
-            ++puzzleCount;
-            states += JudgePuzzle(clues, known.solution, ladder, random, tallies);
-        }
     }
-    const long faults = PrintTable(tallies);
-    std::printf("%ld puzzles, %ld positions, %ld wrong finds\n", puzzleCount, states, faults);
+    JudgeRandomPuzzles(*count, run);
+    const long faults = PrintTable(run.tallies);
+    std::printf("%ld puzzles, %ld positions, %ld wrong finds\n", run.puzzles, run.states, faults);
     return faults == 0 ? 0 : 1;
 }
 

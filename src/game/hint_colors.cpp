@@ -83,6 +83,31 @@ void HintColors::AddLink(const ChainLink& link) {
     links_.push_back(view);
 }
 
+void HintColors::ShowPattern(const Find& find) {
+    if (find.firstColor.empty() && find.secondColor.empty()) {
+        for (int cell : find.cells) {
+            for (int digit : find.digits) {
+                ZetHintNummer(cell, digit);
+            }
+        }
+    }
+    for (const auto& [cell, digit] : find.firstColor) {
+        ZetHintNummer(cell, digit);
+    }
+    for (const auto& [cell, digit] : find.secondColor) {
+        ZetHintNummer(cell, digit, Role::Second);
+    }
+}
+
+// What is left uncoloured of the pattern and sees a placed digit goes with it.
+void HintColors::ShowDisplaced(const Find& find, int placedCell, int digit) {
+    for (int cell : find.cells) {
+        if (Peers(placedCell).Has(cell) && RoleOf(cell, digit) == Role::None) {
+            ZetAttackedCell(cell, digit);
+        }
+    }
+}
+
 void HintColors::Show(const Find& find) {
     for (std::size_t k = 0; k < find.units.Size(); ++k) {
         const Unit& unit = find.UnitAt(k);
@@ -100,15 +125,14 @@ void HintColors::Show(const Find& find) {
     }
     for (int cell : find.cells) {
         ZetHintVak(cell);
-        for (int digit : find.digits) {
-            ZetHintNummer(cell, digit);
-        }
     }
+    ShowPattern(find);
     for (const auto& [cell, digit] : find.removals) {
         ZetAttackedCell(cell, digit);
     }
     for (const auto& [cell, digit] : find.placements) {
         ZetHintNummer(cell, digit, Role::Placed);
+        ShowDisplaced(find, cell, digit);
     }
     for (const ChainLink& link : find.links) {
         AddLink(link);

@@ -38,6 +38,8 @@ class HintColors {
 
   private:
     static constexpr std::size_t Index(int number) { return static_cast<std::size_t>(number); }
+    void ShowPattern(const Find& find);
+    void ShowDisplaced(const Find& find, int placedCell, int digit);
     void AddLink(const ChainLink& link);
 
     CellSet hintCells_;

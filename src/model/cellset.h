@@ -21,7 +21,13 @@ class CellSet {
     constexpr void Remove(int cell) { Word(cell) &= ~Bit(cell); }
     constexpr bool Has(int cell) const { return ((cell < 64 ? low_ : high_) & Bit(cell)) != 0; }
     constexpr bool Any() const { return (low_ | high_) != 0; }
-    constexpr int Count() const { return std::popcount(low_) + std::popcount(high_); }
+    // Both words at once, in halves of growing width: a call of the library's count, where the
+    // processor's own may not be taken for granted, costs twice as much.
+    constexpr int Count() const {
+        const std::uint64_t sum = InFours(low_) + InFours(high_);
+        const std::uint64_t inEights = (sum & kEights) + (sum >> 4 & kEights);
+        return static_cast<int>(inEights * kOnes >> 56);
+    }
     constexpr bool Contains(CellSet other) const { return !(other - *this).Any(); }
 
     // The lowest cell; the set must not be empty.
@@ -66,6 +72,16 @@ class CellSet {
     constexpr CellSet(std::uint64_t low, std::uint64_t high) : low_(low), high_(high) {}
     constexpr std::uint64_t& Word(int cell) { return cell < 64 ? low_ : high_; }
     static constexpr std::uint64_t Bit(int cell) { return std::uint64_t{1} << (cell & 63); }
+
+    static constexpr std::uint64_t kPairs = 0x5555555555555555;
+    static constexpr std::uint64_t kFours = 0x3333333333333333;
+    static constexpr std::uint64_t kEights = 0x0f0f0f0f0f0f0f0f;
+    static constexpr std::uint64_t kOnes = 0x0101010101010101;
+    // In each group of four bits, how many of them are set.
+    static constexpr std::uint64_t InFours(std::uint64_t word) {
+        word -= word >> 1 & kPairs;
+        return (word & kFours) + (word >> 2 & kFours);
+    }
 
     std::uint64_t low_ = 0;
     std::uint64_t high_ = 0;

@@ -27,8 +27,11 @@ constexpr Marks MarkOf(int digit) {
 constexpr bool HasMark(Marks marks, int digit) {
     return (marks >> digit & 1) != 0;
 }
+// In groups of growing width, without a call; see CellSet::Count.
 constexpr int BitCount(unsigned mask) {
-    return std::popcount(mask);
+    mask -= mask >> 1 & 0x55555555u;
+    mask = (mask & 0x33333333u) + (mask >> 2 & 0x33333333u);
+    return static_cast<int>(((mask + (mask >> 4)) & 0x0f0f0f0fu) * 0x01010101u >> 24);
 }
 // The lowest digit of a set that is not empty.
 constexpr int FirstDigit(Marks marks) {
@@ -125,6 +128,23 @@ constexpr const Unit& UnitAround(UnitKind kind, int cell) {
 }
 constexpr CellSet Peers(int cell) {
     return kTables.peers[static_cast<std::size_t>(cell)];
+}
+
+// The cells that see every one of these; none of them is among these. Of no cells: all.
+constexpr CellSet CommonPeers(CellSet cells) {
+    CellSet common = CellSet::All();
+    for (int cell : cells) {
+        common &= Peers(cell);
+    }
+    return common;
+}
+// The cells that see at least one of these.
+constexpr CellSet AllPeers(CellSet cells) {
+    CellSet all;
+    for (int cell : cells) {
+        all |= Peers(cell);
+    }
+    return all;
 }
 
 // "A".."H", then "J": no text ever names a row "I".

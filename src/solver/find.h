@@ -74,6 +74,7 @@ struct ChainLink {
     std::uint8_t toDigit = 0;
     bool strong = false;
     bool directed = false;  // the explanation follows the chain this way
+    CellSet set{};          // the almost locked set that gives the link; empty: a unit or a cell
 
     bool operator==(const ChainLink&) const = default;
 };
@@ -84,13 +85,17 @@ inline constexpr std::size_t kMaxEffects = 50;
 
 struct Find {
     HintKind kind = HintKind::None;
-    int variant = 0;  // the sub-code of kinds with several titles, 0 elsewhere
+    int variant = 0;  // the sub-code of kinds with several titles; else the family's own
 
     // The pattern. Which unit, cell or digit plays which part is fixed by the kind's own family.
     Sequence<std::uint8_t, kUnitCount> units;  // indices into kUnits
     Sequence<std::uint8_t, kCells> cells;
     Sequence<std::uint8_t, 2 * kDigits> digits;
     std::vector<ChainLink> links;
+    // The candidates of the pattern, in its one colour and in its other; where both are empty,
+    // every digit in every cell, in the one.
+    std::vector<CellDigit> firstColor;
+    std::vector<CellDigit> secondColor;
 
     // The effects.
     Sequence<CellDigit, kMaxEffects> placements;
@@ -104,11 +109,18 @@ struct Find {
     void AddDigit(int digit) { digits.Add(static_cast<std::uint8_t>(digit)); }
     void AddCells(CellSet set);
     void AddDigits(Marks marks);
+    // A link between two candidates of one cell or of one digit.
+    enum class Strength : std::uint8_t { Weak, Strong };
+    void AddLink(CellDigit from, CellDigit to, Strength strength);
+    // The candidates of `marks` that these cells hold, by cell, then digit.
+    static std::vector<CellDigit> CandidatesOf(const Grid& grid, CellSet cells, Marks marks);
     const Unit& UnitAt(std::size_t at) const { return kUnits[units[at]]; }
 
     // Takes the candidates of `marks` that these cells hold as removals, as far as there is room.
     // Answers whether there is any removal now. Call it once a find: the order is by cell.
     bool Remove(const Grid& grid, CellSet from, Marks marks);
+    // The same, each digit from its own cells; by digit - 1.
+    bool Remove(const Grid& grid, const std::array<CellSet, kDigits>& from);
 
     bool ChangesSomething() const { return !placements.Empty() || !removals.Empty(); }
     bool HasSameEffects(const Find& other) const {

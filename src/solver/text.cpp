@@ -22,12 +22,44 @@ std::string JoinDigits(std::span<const std::uint8_t> digits, std::string_view la
     return Join(items, last);
 }
 
+std::string JoinDigits(Marks digits, std::string_view last) {
+    std::vector<std::string> items;
+    for (; digits != 0; digits &= static_cast<Marks>(digits - 1)) {
+        items.push_back(std::to_string(FirstDigit(digits)));
+    }
+    return Join(items, last);
+}
+
 std::string JoinCells(std::span<const std::uint8_t> cells) {
     std::vector<std::string> items;
     for (int cell : cells) {
         items.push_back(CellName(cell));
     }
     return Join(items);
+}
+
+std::string JoinCells(CellSet cells) {
+    std::vector<std::string> items;
+    for (int cell : cells) {
+        items.push_back(CellName(cell));
+    }
+    return Join(items);
+}
+
+std::string CellsInHint(CellSet cells) {
+    return (cells.Count() == 1 ? "cell " : "cells ") + JoinCells(cells);
+}
+
+std::string JoinUnits(const Find& find, std::size_t first, std::size_t count) {
+    std::vector<std::string> labels;
+    for (std::size_t k = first; k < first + count; ++k) {
+        labels.push_back(UnitLabel(find.UnitAt(k)));
+    }
+    return Join(labels);
+}
+
+std::string_view LinesWord(const Unit& line) {
+    return line.kind == UnitKind::Row ? "rows" : "columns";
 }
 
 std::string UnitLabel(const Unit& unit) {
@@ -60,13 +92,13 @@ std::string SpacedCells(std::span<const std::uint8_t> cells) {
     return text;
 }
 
-std::string SpacedCells(std::span<const CellDigit> removals) {
-    CellSet losers;
-    for (const CellDigit& removal : removals) {
-        losers.Add(removal.cell);
+std::string SpacedCells(std::span<const CellDigit> effects) {
+    CellSet cells;
+    for (const CellDigit& effect : effects) {
+        cells.Add(effect.cell);
     }
     std::string text;
-    for (int cell : losers) {
+    for (int cell : cells) {
         text += " " + CellName(cell);
     }
     return text;
@@ -87,6 +119,11 @@ std::string RemovedInLog(const Find& find) {
         }
     }
     return text;
+}
+
+std::string PlacedInLog(const Find& find) {
+    return " => Candidate " + std::to_string(find.placements[0].digit) + " placed at cell(s)" +
+           SpacedCells(Items(find.placements));
 }
 
 }  // namespace vemo

@@ -9,6 +9,7 @@ namespace vemo::test {
 namespace {
 
 constexpr int kXWingSlot = 8;
+constexpr int kLongChainsSlot = 38;
 constexpr int kBoxesToHalt = kSlots;  // before the halt box of slot 0
 
 // Slots 3 to 7 and an X-Wing solve it, and without the X-Wing it takes more than slots 3 to 7.
@@ -144,6 +145,9 @@ TEST_F(SolveTechTest, AHintFollowsTheOrderAndTheSwitches) {
     game->OptionOrder(8);
     MoveDown(30);
     ASSERT_EQ(SlotAt(38), kXWingSlot);
+    for (int slot = kXWingSlot + 1; slot < kLongChainsSlot; ++slot) {
+        game->CheckInclude(slot);
+    }
     const std::vector<std::string> scanned = ScannedByHint();
     ASSERT_GT(std::ranges::count(scanned, kScanLongChains), 0);
     EXPECT_EQ(

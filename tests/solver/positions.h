@@ -53,4 +53,39 @@ class PositionsOfCorpus {
     std::mt19937 random_{17};
 };
 
+// Without end: a full grid with some cells open, where any share of the wrong candidates is left
+// and any part of the filled cells are clues. No puzzle may lead there, but every shape occurs.
+class WildPositions {
+  public:
+    Grid Next() {
+        const Digits solution = RandomSymmetry(random_).Of(PlainSolution());
+        const unsigned filled = 5 + random_() % 60;  // in a hundred
+        Digits clues{};
+        Digits placed{};
+        for (std::size_t cell = 0; cell < kCells; ++cell) {
+            if (random_() % 100 < filled) {
+                (random_() % 2 == 0 ? clues : placed)[cell] = solution[cell];
+            }
+        }
+        Grid grid = Grid::FromClues(clues);
+        for (std::size_t cell = 0; cell < kCells; ++cell) {
+            if (placed[cell] != 0) {
+                grid.Zet(placed[cell], static_cast<int>(cell));
+            }
+        }
+        const unsigned gone = 10 + random_() % 60;  // in a hundred
+        for (int cell : grid.EmptyCells()) {
+            for (int digit = 1; digit <= kDigits; ++digit) {
+                if (solution[static_cast<std::size_t>(cell)] != digit && random_() % 100 < gone) {
+                    Discard(grid, cell, MarkOf(digit));
+                }
+            }
+        }
+        return grid;
+    }
+
+  private:
+    std::mt19937 random_{23};
+};
+
 }  // namespace vemo::test

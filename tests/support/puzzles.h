@@ -98,7 +98,7 @@ struct Symmetry {
         }
         return mapped;
     }
-    // The cells' map alone: digits and marks stay what they are.
+    // The cells' map alone: digits, marks and what is a clue stay what they are.
     Grid Moved(const Grid& grid) const {
         Grid moved;
         for (std::size_t from = 0; from < kCells; ++from) {
@@ -111,6 +111,11 @@ struct Symmetry {
             Discard(moved, cell[from],
                     static_cast<Marks>(kAllMarks & ~grid.MarksAt(static_cast<int>(from))));
         }
+        CellSet givens;
+        for (int from : grid.Givens()) {
+            givens.Add(cell[static_cast<std::size_t>(from)]);
+        }
+        moved.SetGivens(givens);
         return moved;
     }
 };

@@ -50,6 +50,67 @@ std::string SubsetHint(const Find& find);
 void XWing(const Position& position, const Args& args, FindSink& sink);
 std::string XWingLog(const Find& find);
 std::string XWingHint(const Find& find);
+void SwordFish(const Position& position, const Args& args, FindSink& sink);
+void JellyFish(const Position& position, const Args& args, FindSink& sink);
+std::string SwordFishLog(const Find& find);
+std::string SwordFishHint(const Find& find);
+std::string JellyFishLog(const Find& find);
+std::string JellyFishHint(const Find& find);
+
+// finned fish
+void FinnedXWing(const Position& position, const Args& args, FindSink& sink);
+std::string FinnedXWingLog(const Find& find);
+std::string FinnedXWingHint(const Find& find);
+
+// patterns of a single digit
+void EmptyRectangle(const Position& position, const Args& args, FindSink& sink);
+void TwoStringKite(const Position& position, const Args& args, FindSink& sink);
+void Skyscraper(const Position& position, const Args& args, FindSink& sink);
+std::string EmptyRectangleLog(const Find& find);
+std::string EmptyRectangleHint(const Find& find);
+std::string TwoStringKiteLog(const Find& find);
+std::string TwoStringKiteHint(const Find& find);
+std::string SkyscraperLog(const Find& find);
+std::string SkyscraperHint(const Find& find);
+
+// colorings of a single digit
+void SimpleColoring(const Position& position, const Args& args, FindSink& sink);
+void MultiColor(const Position& position, const Args& args, FindSink& sink);
+std::string ColorTrapLog(const Find& find);
+std::string ColorTrapHint(const Find& find);
+std::string ColorWrapLog(const Find& find);
+std::string ColorWrapHint(const Find& find);
+std::string MultiColor1Log(const Find& find);
+std::string MultiColor1Hint(const Find& find);
+std::string MultiColor2Log(const Find& find);
+std::string MultiColor2Hint(const Find& find);
+
+// wings and rings of cells with few candidates
+void XYWing(const Position& position, const Args& args, FindSink& sink);
+void XYZWing(const Position& position, const Args& args, FindSink& sink);
+void MultiXWing(const Position& position, const Args& args, FindSink& sink);
+std::string XYWingLog(const Find& find);
+std::string XYWingHint(const Find& find);
+std::string XYZWingLog(const Find& find);
+std::string XYZWingHint(const Find& find);
+std::string MultiXWingLog(const Find& find);
+std::string MultiXWingHint(const Find& find);
+
+// bent sets
+void WXYZWing(const Position& position, const Args& args, FindSink& sink);
+void ExtendedWXYZWing(const Position& position, const Args& args, FindSink& sink);
+std::string WXYZWingLog(const Find& find);
+std::string WXYZWingHint(const Find& find);
+
+// unique rectangles
+void UniqueRectangle(const Position& position, const Args& args, FindSink& sink);
+std::string UniqueRectangleLog(const Find& find);
+std::string UniqueRectangleHint(const Find& find);
+
+// avoidable rectangles
+void AvoidableRectangle(const Position& position, const Args& args, FindSink& sink);
+std::string AvoidableRectangleLog(const Find& find);
+std::string AvoidableRectangleHint(const Find& find);
 
 // the universal grave
 void BUG(const Position& position, const Args& args, FindSink& sink);

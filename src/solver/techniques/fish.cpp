@@ -1,8 +1,11 @@
 // Fish: a digit whose places on some lines lie on as many crossing lines.
+#include "solver/techniques/fish.h"
+
 #include <algorithm>
+#include <bit>
+#include <utility>
 #include <vector>
 
-#include "solver/techniques/combinations.h"
 #include "solver/techniques/families.h"
 #include "solver/text.h"
 
@@ -15,59 +18,56 @@ struct Fish {
     unsigned cover;
 };
 
-UnitKind CrossingKind(UnitKind line) {
-    return line == UnitKind::Row ? UnitKind::Column : UnitKind::Row;
-}
-
-// By base line the crossing lines on which it holds the digit; a line with a single place is a
-// hidden single and no base line.
-Members CrossingsOf(const Grid& grid, UnitKind base, int digit) {
-    Members lines{};
-    for (int index = 0; index < 9; ++index) {
-        unsigned& line = lines[static_cast<std::size_t>(index)];
-        for (int cell : UnitOf(base, index).set& grid.Candidates(digit)) {
-            line |= 1u << UnitIndexOf(CrossingKind(base), cell);
-        }
-        line = BitCount(line) < 2 ? 0 : line;
-    }
-    return lines;
-}
-
-CellSet LinesOf(UnitKind kind, unsigned mask) {
-    CellSet cells;
-    for (int index = 0; index < 9; ++index) {
-        if ((mask >> index & 1) != 0) {
-            cells |= UnitOf(kind, index).set;
-        }
-    }
-    return cells;
-}
-
-void AddLines(Find& find, UnitKind kind, unsigned mask) {
-    for (int index = 0; index < 9; ++index) {
-        if ((mask >> index & 1) != 0) {
-            find.AddUnit(UnitNumber(kind, index));
-        }
-    }
-}
-
-// The digit goes from the cover lines outside the base lines. Answers whether the search shall go
-// on.
+// Base lines that have as many crossing lines between them need one digit each, and have it on one
+// of these each: the digit goes from the cover lines outside the base lines. Answers whether the
+// search shall go on.
 bool OfferFish(const Grid& grid, UnitKind baseKind, HintKind kind, int digit, const Fish& fish,
                FindSink& sink) {
-    const UnitKind coverKind = CrossingKind(baseKind);
+    const CellSet places = grid.Candidates(digit);
     const CellSet base = LinesOf(baseKind, fish.base);
-    const CellSet cover = LinesOf(coverKind, fish.cover);
-    Find find;
-    find.kind = kind;
-    if (!find.Remove(grid, cover - base, MarkOf(digit))) {
+    const CellSet losers = (places & LinesOf(CrossingKind(baseKind), fish.cover)) - base;
+    if (!losers.Any()) {
         return true;
     }
-    AddLines(find, baseKind, fish.base);
-    AddLines(find, coverKind, fish.cover);
-    find.AddCells(base & grid.Candidates(digit));
+    Find find;
+    find.kind = kind;
+    for (int index = 0; index < 9; ++index) {
+        if ((fish.base >> index & 1) != 0) {
+            find.AddUnit(UnitNumber(baseKind, index));
+        }
+    }
+    find.AddCells(base & places);
     find.AddDigit(digit);
+    find.Remove(grid, losers, MarkOf(digit));
     return sink.Offer(find);
+}
+
+// All digits with rows as base lines, then all with columns. `fishOf(lines, offer)` offers the fish
+// among a digit's base lines for as long as `offer` answers that the search shall go on, and
+// answers the same.
+template <typename FishOf>
+void SearchFish(const Grid& grid, HintKind kind, FishOf fishOf, FindSink& sink) {
+    for (UnitKind base : kLineKinds) {
+        for (int digit = 1; digit <= kDigits; ++digit) {
+            const auto offer = [&](const Fish& fish) {
+                return OfferFish(grid, base, kind, digit, fish, sink);
+            };
+            if (!fishOf(CrossingsOf(grid, base, digit), offer)) {
+                return;
+            }
+        }
+    }
+}
+
+// A digit that stands on `size` lines, twice or more on each, only where `size` crossing lines pass
+// goes from the rest of these. Within a digit by the base lines, in lexicographic order.
+void SearchFishOfSize(const Position& position, HintKind kind, int size, FindSink& sink) {
+    const auto fishOf = [size](const Members& lines, const auto& offer) {
+        return ForEachSubset(lines, size, [&](unsigned base, unsigned cover) {
+            return offer(Fish{base, cover});
+        });
+    };
+    SearchFish(position.Cells(), kind, fishOf, sink);
 }
 
 // The two lines whose places are exactly the same pair, in the order of that pair.
@@ -87,35 +87,85 @@ std::vector<Fish> XWingsOf(const Members& lines) {
     return fish;
 }
 
-// The unit labels of a find from `first` on, joined: "A and D".
-std::string Labels(const Find& find, std::size_t first, std::size_t count) {
-    std::vector<std::string> labels;
-    for (std::size_t k = first; k < first + count; ++k) {
-        labels.push_back(UnitLabel(find.UnitAt(k)));
-    }
-    return Join(labels);
+std::string FishLog(const char* name, const Find& find) {
+    return std::string(name) + ": " + FishWords(find).baseInLog + RemovedInLog(find);
 }
 
-std::string_view PluralOf(const Unit& line) {
-    return line.kind == UnitKind::Row ? "rows" : "columns";
+std::string FishHint(const char* name, const char* size, const Find& find) {
+    const FishWords words(find);
+    return std::string(name) + ": Since number " + words.digit + " in the " + size + " " +
+           words.baseKind + " " + words.base + " appears only in the same " + size + " " +
+           words.coverKind + " " + words.cover +
+           ", this number can't appear anywhere else in these " + words.coverKind;
 }
 
 }  // namespace
+
+Members CrossingsOf(const Grid& grid, UnitKind base, int digit) {
+    Members lines{};
+    for (int cell : grid.Candidates(digit)) {
+        lines[static_cast<std::size_t>(UnitIndexOf(base, cell))] |=
+            1u << UnitIndexOf(CrossingKind(base), cell);
+    }
+    for (unsigned& line : lines) {
+        line = BitCount(line) < 2 ? 0 : line;
+    }
+    return lines;
+}
+
+CellSet LinesOf(UnitKind kind, unsigned mask) {
+    CellSet cells;
+    for (; mask != 0; mask &= mask - 1) {
+        cells |= UnitOf(kind, std::countr_zero(mask)).set;
+    }
+    return cells;
+}
+
+FishWords::FishWords(const Find& find) {
+    CellSet corners;
+    for (int cell : find.cells) {
+        corners.Add(cell);
+    }
+    for (const CellDigit& fin : find.secondColor) {
+        corners.Remove(fin.cell);
+    }
+    std::vector<std::string> labels;
+    const Unit& first = find.UnitAt(0);
+    for (int index = 0; index < 9; ++index) {
+        const Unit& line = UnitOf(CrossingKind(first.kind), index);
+        if ((line.set & corners).Any()) {
+            labels.push_back(UnitLabel(line));
+            coverKind = LinesWord(line);
+        }
+    }
+    digit = JoinDigits(Items(find.digits));
+    base = JoinUnits(find, 0, find.units.Size());
+    baseKind = LinesWord(first);
+    cover = Join(labels);
+    baseInLog = (first.kind == UnitKind::Row ? "Rows " : "Columns ") + base;
+}
 
 // A digit that stands only twice on two lines, both times on the same two crossing lines, takes one
 // place on each of these: it goes from their other cells. All digits with rows as base lines, then
 // all with columns; within a digit by the pair of crossing lines.
 void XWing(const Position& position, const Args&, FindSink& sink) {
-    const Grid& grid = position.Cells();
-    for (UnitKind base : {UnitKind::Row, UnitKind::Column}) {
-        for (int digit = 1; digit <= kDigits; ++digit) {
-            for (const Fish& fish : XWingsOf(CrossingsOf(grid, base, digit))) {
-                if (!OfferFish(grid, base, HintKind::XWing, digit, fish, sink)) {
-                    return;
-                }
-            }
-        }
-    }
+    const auto fishOf = [](const Members& lines, const auto& offer) {
+        return std::ranges::all_of(XWingsOf(lines), offer);
+    };
+    SearchFish(position.Cells(), HintKind::XWing, fishOf, sink);
+}
+
+// A digit that stands on three lines, two or three times on each, only where the same three
+// crossing lines pass: the three lines take a place on each of these, and it goes from their other
+// cells. All digits with rows as base lines, then all with columns; within a digit by the base
+// lines.
+void SwordFish(const Position& position, const Args&, FindSink& sink) {
+    SearchFishOfSize(position, HintKind::Swordfish, 3, sink);
+}
+
+// The same with four lines and four crossing lines.
+void JellyFish(const Position& position, const Args&, FindSink& sink) {
+    SearchFishOfSize(position, HintKind::Jellyfish, 4, sink);
 }
 
 std::string XWingLog(const Find& find) {
@@ -127,11 +177,26 @@ std::string XWingLog(const Find& find) {
 }
 
 std::string XWingHint(const Find& find) {
-    const std::string cover(PluralOf(find.UnitAt(2)));
-    return "X-WING: Since number " + JoinDigits(Items(find.digits)) +
-           " appears only twice in both " + Labels(find, 0, 2) +
-           ", and this number appears in the same two " + cover + " " + Labels(find, 2, 2) +
-           ", this number can't appear anywhere else in these " + cover;
+    const FishWords words(find);
+    return "X-WING: Since number " + words.digit + " appears only twice in both " + words.base +
+           ", and this number appears in the same two " + words.coverKind + " " + words.cover +
+           ", this number can't appear anywhere else in these " + words.coverKind;
+}
+
+std::string SwordFishLog(const Find& find) {
+    return FishLog("Swordfish", find);
+}
+
+std::string SwordFishHint(const Find& find) {
+    return FishHint("SWORDFISH", "three", find);
+}
+
+std::string JellyFishLog(const Find& find) {
+    return FishLog("Jellyfish", find);
+}
+
+std::string JellyFishHint(const Find& find) {
+    return FishHint("JELLYFISH", "four", find);
 }
 
 }  // namespace vemo
