@@ -1,9 +1,10 @@
 // Checks every find of every step against the puzzle's solution.
-//     soundness [--seed N] [--random COUNT] [FILE...]
+//     soundness [--seed N] [--one-in N] [--random COUNT] [FILE...]
 // The puzzles are those of the files, and COUNT made at random. Each is walked with the fixed
-// ladder. At every state all steps search, the one outside the ladder too: on the candidates as
-// they are, and once more without some wrong candidates chosen at random, as a player may have
-// removed them. Prints a table by technique; exits with 1 where any find contradicts a solution
+// ladder, and what the walk takes is checked. At every state, or at one in N chosen at random, all
+// steps search for all that they find, the one outside the ladder too: on the candidates as they
+// are, and once more without some wrong candidates chosen at random, as a player may have removed
+// them. Prints a table by technique; exits with 1 where any find contradicts a solution
 // (the Bivalue Universal Grave is counted, but no fault: its rule is known to fail in rare
 // positions).
 #include <array>
@@ -100,26 +101,6 @@ Grid Thinned(const Grid& grid, const Digits& solution, Random& random) {
     return thinned;
 }
 
-// Answers how many states were judged.
-long JudgePuzzle(const Digits& clues, const Digits& solution, const Ladder& ladder, Random& random,
-                 Tallies& tallies) {
-    long states = 0;
-    Solver solver(Grid::FromClues(clues));
-    solver.SetSolution(solution);
-    RunToTheEnd(solver, ladder, [&] {
-        const Grid& grid = solver.State().Cells();
-        // Behind a step that was wrong there is nothing left to judge.
-        if (solver.UnsoundFinds() > 0) {
-            return false;
-        }
-        JudgeAllSteps(grid, solution, tallies);
-        JudgeAllSteps(Thinned(grid, solution, random), solution, tallies);
-        states += 2;
-        return true;
-    });
-    return states;
-}
-
 // Answers how many finds were wrong that may not be.
 long PrintTable(const Tallies& tallies) {
     long faults = 0;
@@ -137,25 +118,54 @@ long PrintTable(const Tallies& tallies) {
 }
 
 int Usage(const std::string& error) {
-    std::cerr << error << "\nusage: soundness [--seed N] [--random COUNT] [FILE...]\n";
+    std::cerr << error << "\nusage: soundness [--seed N] [--one-in N] [--random COUNT] [FILE...]\n";
     return 2;
 }
 
 // A whole run over some puzzles.
 struct Run {
-    explicit Run(std::uint64_t seed) : random(seed) {}
-
-    void Judge(const Digits& clues, const Digits& solution) {
-        ++puzzles;
-        states += JudgePuzzle(clues, solution, ladder, random, tallies);
-    }
+    void Walk(const Digits& clues, const Digits& solution);
 
     Random random;
+    int oneIn = 1;
     Ladder ladder = FixedLadder();
-    Tallies tallies;
+    Tallies tallies{};
     long puzzles = 0;
     long states = 0;
 };
+
+void Run::Walk(const Digits& clues, const Digits& solution) {
+    ++puzzles;
+    Solver solver(Grid::FromClues(clues));
+    solver.SetSolution(solution);
+    Grid before = solver.State().Cells();
+    bool isJudged = true;
+    // What was found at a state that was judged stands in its tally already.
+    const auto judgeWhatWasTaken = [&] {
+        if (!isJudged) {
+            Judge(before, solution, tallies).Offer(solver.LastFind());
+        }
+    };
+    const bool isSolved = RunToTheEnd(solver, ladder, [&] {
+        judgeWhatWasTaken();
+        // Behind a step that was wrong there is nothing left to judge.
+        if (solver.UnsoundFinds() > 0) {
+            isJudged = true;
+            return false;
+        }
+        before = solver.State().Cells();
+        isJudged = random.Below(oneIn) == 0;
+        if (isJudged) {
+            JudgeAllSteps(before, solution, tallies);
+            JudgeAllSteps(Thinned(before, solution, random), solution, tallies);
+            states += 2;
+        }
+        return true;
+    });
+    if (isSolved) {
+        judgeWhatWasTaken();
+    }
+}
 
 bool JudgeFile(const std::string& name, Run& run) {
     const auto puzzles = ReadPuzzleList(name);
@@ -165,7 +175,7 @@ bool JudgeFile(const std::string& name, Run& run) {
     for (const Digits& clues : *puzzles) {
         const BruteForceResult known = BruteForceSolve(clues);
         if (known.IsUnique()) {
-            run.Judge(clues, known.solution);
+            run.Walk(clues, known.solution);
         } else {
             std::cerr << name << ": passed over, not one solution: " << WriteGrid81(clues) << '\n';
         }
@@ -178,26 +188,29 @@ void JudgeRandomPuzzles(std::uint64_t count, Run& run) {
     for (std::uint64_t made = 0; made < count; ++made) {
         const Digits solution = RandomSolution(run.random);
         const int fewest = made % 2 == 0 ? 0 : 26;
-        run.Judge(DigClues(solution, Symmetry::None, fewest, run.random), solution);
+        run.Walk(DigClues(solution, Symmetry::None, fewest, run.random), solution);
     }
 }
 
 int Main(const std::vector<std::string>& words) {
-    static constexpr Option kOptions[] = {{"--seed", "N", ""}, {"--random", "COUNT", ""}};
+    static constexpr Option kOptions[] = {
+        {"--seed", "N", ""}, {"--one-in", "N", ""}, {"--random", "COUNT", ""}};
     const ParsedArguments parsed = ParseArguments(words, kOptions);
-    const auto numberOf = [&](const char* option, const char* fallback) {
-        return WholeNumber(parsed.arguments.ValueOf(option).value_or(fallback), 0,
-                           ~std::uint64_t{0});
+    const auto numberOf = [&](const char* option, const char* fallback, std::uint64_t fewest,
+                              std::uint64_t most) {
+        return WholeNumber(parsed.arguments.ValueOf(option).value_or(fallback), fewest, most);
     };
-    const auto seed = numberOf("--seed", "1");
-    const auto count = numberOf("--random", "0");
-    if (!parsed.error.empty() || !seed || !count) {
-        return Usage(parsed.error.empty() ? "--seed and --random are numbers" : parsed.error);
+    const auto seed = numberOf("--seed", "1", 0, ~std::uint64_t{0});
+    const auto oneIn = numberOf("--one-in", "1", 1, 1'000'000);
+    const auto count = numberOf("--random", "0", 0, ~std::uint64_t{0});
+    if (!parsed.error.empty() || !seed || !oneIn || !count) {
+        return Usage(parsed.error.empty() ? "--seed, --one-in and --random are numbers"
+                                          : parsed.error);
     }
     if (*count == 0 && parsed.arguments.operands.empty()) {
         return Usage("FILE is missing");
     }
-    Run run(*seed);
+    Run run{.random = Random(*seed), .oneIn = static_cast<int>(*oneIn)};
     for (const std::string& name : parsed.arguments.operands) {
         if (!JudgeFile(name, run)) {
             return 3;

@@ -16,17 +16,20 @@ namespace {
 constexpr Option kOutputOption = {"--output", "DIR", "write nine level files into this folder"};
 constexpr Option kSeedOption = {"--seed", "N", "where the random numbers begin (1)"};
 constexpr Option kCountOption = {"--count", "N", "puzzles a level (60)"};
+constexpr Option kTriesOption = {"--tries", "N", "puzzles tried for one that is kept (500)"};
 constexpr Option kCorpusOption = {"--corpus", "FILE", "write a list of mixed puzzles to this file"};
 constexpr Option kCorpusCountOption = {"--corpus-count", "N", "puzzles of that list (400)"};
-constexpr Option kOptions[] = {kOutputOption, kSeedOption,        kCountOption,
+constexpr Option kOptions[] = {kOutputOption, kSeedOption,        kCountOption, kTriesOption,
                                kCorpusOption, kCorpusCountOption, kQuietOption};
 
 constexpr std::uint64_t kMostPuzzles = 100'000;
+constexpr std::uint64_t kMostTries = 1'000;
 
 std::string Notes() {
     return "Writes Sudoku_Easy.sds to Sudoku_Outlaw.sds, or a list of puzzles, one a line,\n"
            "or both. Every puzzle has exactly one solution. The same numbers make the same\n"
-           "files. A folder with a player's progress in it is left alone. Tells of each\n"
+           "files. Where the puzzles of a level are too rare for so many tries, its file\n"
+           "stays short. A folder with a player's progress in it is left alone. Tells of each\n"
            "file that it wrote the name TAB the number of puzzles.\n";
 }
 
@@ -57,8 +60,8 @@ std::string ReadOrder(const Arguments& arguments, Order& order) {
     if (!has(kOutputOption) && !has(kCorpusOption)) {
         return "--output DIR or --corpus FILE is missing";
     }
-    if (has(kCountOption) && !has(kOutputOption)) {
-        return "--count goes with --output";
+    if ((has(kCountOption) || has(kTriesOption)) && !has(kOutputOption)) {
+        return "--count and --tries go with --output";
     }
     if (has(kCorpusCountOption) && !has(kCorpusOption)) {
         return "--corpus-count goes with --corpus";
@@ -67,6 +70,9 @@ std::string ReadOrder(const Arguments& arguments, Order& order) {
         ReadNumberOf(arguments, kSeedOption, 0, ~std::uint64_t{0}, order.levels.seed);
     if (error.empty()) {
         error = ReadNumberOf(arguments, kCountOption, 1, kMostPuzzles, order.levels.count);
+    }
+    if (error.empty()) {
+        error = ReadNumberOf(arguments, kTriesOption, 1, kMostTries, order.levels.triesPerPuzzle);
     }
     if (error.empty()) {
         error = ReadNumberOf(arguments, kCorpusCountOption, 1, kMostPuzzles, order.corpusCount);
@@ -193,7 +199,8 @@ CommandResult RunMakeLevels(const Arguments& arguments, Streams& streams) {
 Command MakeLevelsCommand() {
     return {"make-levels",
             Operands::None,
-            "[--output DIR [--count N]] [--corpus FILE [--corpus-count N]] [--seed N] [--quiet]",
+            "[--output DIR [--count N] [--tries N]] [--corpus FILE [--corpus-count N]] [--seed N] "
+            "[--quiet]",
             "Makes the level files of the game, or a list of puzzles",
             kOptions,
             Notes,

@@ -4,21 +4,25 @@
 #include <algorithm>
 #include <numeric>
 #include <set>
-#include <tuple>
 #include <utility>
 
-#include "solver/brute_force.h"
+#include "solver/fast_count.h"
 #include "solver/solver.h"
+#include "tools/hard_walk.h"
+#include "tools/rated_puzzle.h"
 
 namespace vemo {
 namespace {
 
-constexpr int kTriesPerPuzzle = 500;
 // The others look the same after half a turn.
 constexpr int kOneUnsymmetricalIn = 4;
 
-// Keeps the corpus of a seed apart from its levels.
+// Puzzles of the levels from here on are walked to: at random they are too rare.
+constexpr int kFirstWalkedLevel = 7;
+
+// Keep the corpus and the walk of a seed apart from its other puzzles.
 constexpr std::uint64_t kCorpusStream = 0x636f72707573;
+constexpr std::uint64_t kWalkStream = 0x77616c6b;
 // Rated 1, 2, 3, and all above in one.
 constexpr int kCorpusSorts = 4;
 
@@ -67,31 +71,6 @@ bool FillAtRandom(const Grid& grid, Random& random, Digits& solution) {
     return false;
 }
 
-struct Candidate {
-    PuzzleRecord puzzle;
-    int rating = 0;
-    int openCells = 0;  // where the ladder stops
-    int openMarks = 0;
-    int steps = 0;
-};
-
-// From easier to harder.
-bool IsEasier(const Candidate& a, const Candidate& b) {
-    return std::tie(a.rating, a.openCells, a.openMarks, a.steps) <
-           std::tie(b.rating, b.openCells, b.openMarks, b.steps);
-}
-
-Candidate Rate(const PuzzleRecord& puzzle, const Ladder& ladder) {
-    Solver solver(Grid::FromClues(puzzle.clues));
-    const bool solved = RunToTheEnd(solver, ladder);
-    Candidate candidate{puzzle, RatingOf(solver, solved), solver.EmptyCount(), 0,
-                        solver.StepCount()};
-    for (int digit = 1; digit <= kDigits; ++digit) {
-        candidate.openMarks += solver.State().Cells().Candidates(digit).Count();
-    }
-    return candidate;
-}
-
 PuzzleRecord MakePuzzle(ClueRange range, Random& random) {
     PuzzleRecord puzzle;
     puzzle.solution = RandomSolution(random);
@@ -103,60 +82,40 @@ PuzzleRecord MakePuzzle(ClueRange range, Random& random) {
     return puzzle;
 }
 
-// The highest level that has a step which searches, and below which every level has one.
-int HighestRatedLevel(const Ladder& ladder) {
-    std::array<bool, kLevels + 1> hasSearch{};
-    for (const LadderStep& at : ladder) {
-        hasSearch[static_cast<std::size_t>(at.step->level)] |= at.step->Finds();
-    }
-    int level = 0;
-    while (level < kOutlaw - 1 && hasSearch[static_cast<std::size_t>(level + 1)]) {
-        ++level;
-    }
-    return level;
-}
-
-// The levels that the ladder rates, one group each, and behind them one group of all that is
-// harder.
+// A puzzle of each level in turn, as long as the level is not full.
 class Sorter {
   public:
     explicit Sorter(const LevelSettings& settings)
-        : count_(settings.count),
-          random_(settings.seed),
-          ladder_(FixedLadder()),
-          ratedLevels_(HighestRatedLevel(ladder_)),
-          groups_(static_cast<std::size_t>(ratedLevels_) + 1) {}
+        : settings_(settings), random_(settings.seed), walk_(settings.seed ^ kWalkStream) {}
 
     void Fill(const MakerProgress& progress);
     LevelPuzzles Levels();
 
   private:
-    int Wanted(std::size_t group) const {
-        const bool isLast = group + 1 == groups_.size();
-        return isLast ? count_ * (kLevels - ratedLevels_) : count_;
+    bool IsFull(int level) const {
+        return static_cast<int>(PuzzlesOf(level).size()) == settings_.count;
     }
-    bool IsFull(std::size_t group) const {
-        return static_cast<int>(groups_[group].size()) == Wanted(group);
+    const std::vector<RatedPuzzle>& PuzzlesOf(int level) const {
+        return puzzles_[static_cast<std::size_t>(level) - 1];
     }
-    void TryPuzzleFor(std::size_t group);
+    void TryPuzzleFor(int level);
 
-    int count_;
+    LevelSettings settings_;
     Random random_;
-    Ladder ladder_;
-    int ratedLevels_;
-    std::vector<std::vector<Candidate>> groups_;
+    HardWalk walk_;
+    std::array<std::vector<RatedPuzzle>, kLevels> puzzles_;
     std::set<Digits> known_;
 };
 
 void Sorter::Fill(const MakerProgress& progress) {
-    const int wanted = count_ * kLevels;
-    int triesLeft = wanted * kTriesPerPuzzle;
+    const int wanted = settings_.count * kLevels;
+    int triesLeft = wanted * settings_.triesPerPuzzle;
     bool isDone = false;
     while (!isDone && triesLeft > 0) {
         isDone = true;
-        for (std::size_t group = 0; group < groups_.size(); ++group) {
-            if (!IsFull(group)) {
-                TryPuzzleFor(group);
+        for (int level = 1; level <= kLevels; ++level) {
+            if (!IsFull(level)) {
+                TryPuzzleFor(level);
                 --triesLeft;
                 isDone = false;
             }
@@ -168,43 +127,35 @@ void Sorter::Fill(const MakerProgress& progress) {
 }
 
 // A puzzle goes where its rating sends it, if there is room and it has clues enough for the level.
-void Sorter::TryPuzzleFor(std::size_t group) {
-    const PuzzleRecord puzzle = MakePuzzle(RangeOf(static_cast<int>(group) + 1), random_);
-    const Candidate candidate = Rate(puzzle, ladder_);
-    const int levelOfGroup = std::min(candidate.rating, ratedLevels_ + 1);
-    const std::size_t home = static_cast<std::size_t>(levelOfGroup) - 1;
-    const ClueRange range = RangeOf(levelOfGroup);
-    const int clues = ClueCount(puzzle.clues);
-    if (!IsFull(home) && clues >= range.fewest && clues <= range.most &&
-        known_.insert(puzzle.clues).second) {
-        groups_[home].push_back(candidate);
+void Sorter::TryPuzzleFor(int level) {
+    const std::optional<RatedPuzzle> rated =
+        level < kFirstWalkedLevel ? Rate(MakePuzzle(RangeOf(level), random_)) : walk_.Next();
+    if (!rated || IsFull(rated->rating)) {
+        return;
     }
-}
-
-// One of so many equal parts of a group.
-std::vector<PuzzleRecord> PartOf(const std::vector<Candidate>& group, int part, int parts) {
-    const auto start = [&](int of) {
-        return group.size() * static_cast<std::size_t>(of) / static_cast<std::size_t>(parts);
-    };
-    std::vector<PuzzleRecord> puzzles;
-    for (std::size_t at = start(part); at < start(part + 1); ++at) {
-        puzzles.push_back(group[at].puzzle);
+    const ClueRange range = RangeOf(rated->rating);
+    const int clues = ClueCount(rated->puzzle.clues);
+    if (clues >= range.fewest && clues <= range.most && known_.insert(rated->puzzle.clues).second) {
+        puzzles_[static_cast<std::size_t>(rated->rating) - 1].push_back(*rated);
     }
-    return puzzles;
 }
 
 LevelPuzzles Sorter::Levels() {
-    for (std::vector<Candidate>& group : groups_) {
-        std::ranges::stable_sort(group, IsEasier);
-    }
     LevelPuzzles levels;
-    for (int level = 1; level <= kLevels; ++level) {
-        const std::size_t at = static_cast<std::size_t>(level) - 1;
-        levels[at] = level <= ratedLevels_
-                         ? PartOf(groups_[at], 0, 1)
-                         : PartOf(groups_.back(), level - ratedLevels_ - 1, kLevels - ratedLevels_);
+    for (std::size_t at = 0; at < kLevels; ++at) {
+        std::ranges::stable_sort(puzzles_[at], IsGentler);
+        for (const RatedPuzzle& rated : puzzles_[at]) {
+            levels[at].push_back(rated.puzzle);
+        }
     }
     return levels;
+}
+
+// Answers whether the solution is still the only one.
+bool TakeClue(Digits& clues, std::size_t cell) {
+    const bool isNeeded = NeedsClue(clues, static_cast<int>(cell));
+    clues[cell] = 0;
+    return !isNeeded;
 }
 
 }  // namespace
@@ -215,11 +166,11 @@ Digits RandomSolution(Random& random) {
     return solution;
 }
 
-Digits DigClues(const Digits& solution, Symmetry symmetry, int fewest, Random& random) {
+Digits DigClues(const Digits& from, Symmetry symmetry, int fewest, Random& random) {
     std::array<std::size_t, kCells> order;
     std::iota(order.begin(), order.end(), std::size_t{0});
     random.Shuffle(order);
-    Digits clues = solution;
+    Digits clues = from;
     int clueCount = ClueCount(clues);
     for (std::size_t cell : order) {
         const std::size_t partner = symmetry == Symmetry::HalfTurn ? kCells - 1 - cell : cell;
@@ -228,9 +179,7 @@ Digits DigClues(const Digits& solution, Symmetry symmetry, int fewest, Random& r
             continue;
         }
         Digits fewer = clues;
-        fewer[cell] = 0;
-        fewer[partner] = 0;
-        if (BruteForceSolve(fewer).IsUnique()) {
+        if (TakeClue(fewer, cell) && (partner == cell || TakeClue(fewer, partner))) {
             clues = fewer;
             clueCount -= going;
         }
@@ -246,13 +195,12 @@ LevelPuzzles MakeLevels(const LevelSettings& settings, const MakerProgress& prog
 
 std::vector<Digits> MakeCorpus(std::uint64_t seed, int count, const MakerProgress& progress) {
     Random random(seed ^ kCorpusStream);
-    const Ladder ladder = FixedLadder();
     std::vector<Digits> corpus;
     std::set<Digits> known;
     while (static_cast<int>(corpus.size()) < count) {
         const int sort = 1 + static_cast<int>(corpus.size()) % kCorpusSorts;
         const PuzzleRecord puzzle = MakePuzzle(RangeOf(sort), random);
-        const int rating = Rate(puzzle, ladder).rating;
+        const int rating = Rate(puzzle).rating;
         if (std::min(rating, kCorpusSorts) == sort && known.insert(puzzle.clues).second) {
             corpus.push_back(puzzle.clues);
         }

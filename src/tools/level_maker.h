@@ -1,6 +1,6 @@
 // Random puzzles with exactly one solution, and the nine levels that they are sorted into.
 //
-// The shipped level files and the corpus of the tests come, with a ladder of slots 3 to 7, from
+// The shipped level files and the corpus of the tests come from
 //     vemosud make-levels --output assets --seed 2026
 //     vemosud make-levels --corpus tests/data/corpus.txt --corpus-count 400 --seed 2026
 #pragma once
@@ -22,13 +22,15 @@ Digits RandomSolution(Random& random);
 // Whether the clues look the same after half a turn.
 enum class Symmetry : std::uint8_t { None, HalfTurn };
 
-// Takes clues out of a full grid as long as its solution stays the only one and at least `fewest`
-// clues stay. What is left has more clues where no other can go.
-Digits DigClues(const Digits& solution, Symmetry symmetry, int fewest, Random& random);
+// Takes clues out of a full grid, or out of a puzzle, as long as its solution stays the only one
+// and at least `fewest` clues stay. What is left has more clues where no other can go.
+Digits DigClues(const Digits& from, Symmetry symmetry, int fewest, Random& random);
 
 struct LevelSettings {
     std::uint64_t seed = 1;
     int count = 60;  // puzzles a level
+    // Where the search ends, on the average of all levels.
+    int triesPerPuzzle = 500;
 };
 
 // By level, from easier to harder; all different.
@@ -37,11 +39,8 @@ using LevelPuzzles = std::array<std::vector<PuzzleRecord>, kLevels>;
 // Told now and then how many puzzles stand and how many are wanted.
 using MakerProgress = std::function<void(int made, int wanted)>;
 
-// The fixed ladder sorts them, as far as it can tell levels apart: up to the highest level below
-// which every one has a step that searches. What is harder fills the levels above in equal parts,
-// in the order of how far the ladder comes with it. The same settings and the same ladder make the
-// same puzzles. A level stays short, or empty, where its kind of puzzle is too rare for a search of
-// bounded length.
+// The fixed ladder sorts them. The same settings and the same ladder make the same puzzles. A level
+// stays short, or empty, where its kind of puzzle is too rare for a search of bounded length.
 LevelPuzzles MakeLevels(const LevelSettings& settings, const MakerProgress& progress = {});
 
 // Puzzles of the levels 1, 2, 3 and above in turn, all different.

@@ -38,7 +38,7 @@ TEST(Program, AWrongWordIsNamed) {
         {{"make-levels"}, "--output DIR or --corpus FILE is missing"},
         {{"make-levels", "--output", "x", "--seed", "-1"}, "--seed is a number from 0"},
         {{"make-levels", "--output", "x", "--count", "2x"}, ": 2x"},
-        {{"make-levels", "--corpus", "x", "--count", "2"}, "--count goes with --output"},
+        {{"make-levels", "--corpus", "x", "--count", "2"}, "--count and --tries go with --output"},
     };
     for (const auto& [words, named] : cases) {
         const Outcome result = Invoke(words);

@@ -34,9 +34,6 @@ const std::string kDrop = "Drag 'N' Drop Error";
 // Yields to singles alone.
 const std::string kEasy =
     "53..7....6..195....98....6.8...6...34..8.3..17...2...6.6....28....419..5....8..79";
-// Has one solution that no step of the ladder leads to.
-const std::string kOutlawed =
-    "........8..3...4...9..2..6.....79.......612...6.5.2.7...8...5...1.....2.4.5.....3";
 
 std::string InNineLines(const std::string& line) {
     std::string text;

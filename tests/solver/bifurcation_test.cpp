@@ -19,13 +19,22 @@ Ladder TrialAlone(Mode mode) {
     return {{&StepOfSlot(kTrialSlot), mode}};
 }
 
-// The states of the corpus where nothing but a trial is left.
+Grid StuckWith(const Digits& puzzle, const Ladder& ladder) {
+    Solver solver(Grid::FromClues(puzzle));
+    RunToTheEnd(solver, ladder);
+    return solver.State().Cells();
+}
+
+// Where nothing but a trial is left, and where nothing but a trial or a chain is.
 std::vector<Grid> StuckStates() {
     std::vector<Grid> states;
+    for (const char* puzzle : {kNeedsTrials, kOutlawed}) {
+        states.push_back(StuckWith(ParseDigits(puzzle), TrialLadder()));
+    }
     for (const Digits& puzzle : Corpus()) {
-        Solver solver(Grid::FromClues(puzzle));
-        if (!RunToTheEnd(solver, TrialLadder())) {
-            states.push_back(solver.State().Cells());
+        const Grid grid = StuckWith(puzzle, QuickLadder());
+        if (grid.EmptyCount() > 0 && states.size() < 40) {
+            states.push_back(grid);
         }
     }
     return states;

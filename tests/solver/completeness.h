@@ -79,8 +79,10 @@ inline EffectSet FoundBy(const Step& step, const Grid& grid) {
     return found;
 }
 
-// Fifty positions with a find and fifty without one.
-inline void ExpectComplete(const Step& step, const std::function<EffectSet(const Grid&)>& all) {
+// On as many positions with a find as without one. Where a nearly full grid has thousands of finds,
+// ask for more open cells.
+inline void ExpectComplete(const Step& step, const std::function<EffectSet(const Grid&)>& all,
+                           int fewestOpen = 10) {
     constexpr int kWanted = 50;
     int with = 0;
     int without = 0;
@@ -88,8 +90,11 @@ inline void ExpectComplete(const Step& step, const std::function<EffectSet(const
     WildPositions wild;
     for (int tried = 0; tried < 10000 && (with < kWanted || without < kWanted); ++tried) {
         const Grid grid = tried % 2 == 0 ? corpus.Next().grid : wild.Next();
+        if (grid.EmptyCount() < fewestOpen) {
+            continue;
+        }
         const bool any = SearchFirst(step, grid).any;
-        if (grid.EmptyCount() < 10 || (any ? with : without) >= kWanted) {
+        if ((any ? with : without) >= kWanted) {
             continue;
         }
         ++(any ? with : without);

@@ -27,6 +27,30 @@ inline void DiscardSomeFalseMarks(Grid& grid, const Digits& solution, std::mt199
     }
 }
 
+// A puzzle of the corpus with all states on the way that the ladder takes.
+struct Solve {
+    std::vector<Grid> states;
+    Digits solution;
+};
+inline const std::vector<Solve>& SolvesOfCorpus() {
+    static const std::vector<Solve> kSolves = [] {
+        std::vector<Solve> solves;
+        const Ladder ladder = FixedLadder();
+        for (const Digits& puzzle : Corpus()) {
+            Solve solve{{}, SolutionOf(puzzle)};
+            Solver solver(Grid::FromClues(puzzle));
+            RunToTheEnd(solver, ladder, [&] {
+                solve.states.push_back(solver.State().Cells());
+                return true;
+            });
+            solve.states.push_back(solver.State().Cells());
+            solves.push_back(std::move(solve));
+        }
+        return solves;
+    }();
+    return kSolves;
+}
+
 // Without end: a puzzle of the corpus after some steps, every other time with further marks gone.
 class PositionsOfCorpus {
   public:
@@ -35,12 +59,8 @@ class PositionsOfCorpus {
         Digits solution;
     };
     Known Next() {
-        const Digits& puzzle = puzzles_.at(random_() % puzzles_.size());
-        Solver solver(Grid::FromClues(puzzle));
-        for (std::size_t steps = random_() % 60; steps > 0; --steps) {
-            solver.Pass(ladder_);
-        }
-        Known known{solver.State().Cells(), SolutionOf(puzzle)};
+        const auto& [states, solution] = solves_.at(random_() % solves_.size());
+        Known known{states[std::min<std::size_t>(random_() % 60, states.size() - 1)], solution};
         if (random_() % 2 == 0) {
             DiscardSomeFalseMarks(known.grid, known.solution, random_);
         }
@@ -48,8 +68,7 @@ class PositionsOfCorpus {
     }
 
   private:
-    std::vector<Digits> puzzles_ = Corpus();
-    Ladder ladder_ = FixedLadder();
+    const std::vector<Solve>& solves_ = SolvesOfCorpus();
     std::mt19937 random_{17};
 };
 

@@ -15,6 +15,13 @@
 
 namespace vemo::test {
 
+// Has one solution, to which no step of the ladder leads.
+inline constexpr const char* kOutlawed =
+    ".4......52..9...8.....6...7...4.2.5.5.681...........28.923.....7....1....5..7..3.";
+// One clue more: of six trials four fail, one gets no further, and the last leads to the solution.
+inline constexpr const char* kNeedsTrials =
+    ".4......52..9...8.....6...7...4.2.5.5.681.........6.28.923.....7....1....5..7..3.";
+
 // 81 characters, anything but 1..9 is an empty cell.
 inline Digits ParseDigits(std::string_view text) {
     Digits digits{};

@@ -55,22 +55,25 @@ TEST(LevelMaker, DiggingStopsAtTheWantedNumberOfCluesOrWhenEachIsNeeded) {
 
 TEST(LevelMaker, ASeedMakesTheSameDifferentUniquePuzzlesRatedAsFiled) {
     constexpr int kCount = 2;
-    const LevelPuzzles levels = MakeLevels({5, kCount});
-    EXPECT_EQ(levels, MakeLevels({5, kCount}));
-    EXPECT_NE(levels, MakeLevels({6, kCount}));
+    const LevelPuzzles levels = MakeLevels({5, kCount, 50});
+    EXPECT_EQ(levels, MakeLevels({5, kCount, 50}));
+    EXPECT_NE(levels, MakeLevels({6, kCount, 50}));
     std::set<Digits> different;
+    std::size_t made = 0;
     for (int level = 1; level <= kLevels; ++level) {
         const auto& puzzles = levels[static_cast<std::size_t>(level) - 1];
-        EXPECT_EQ(puzzles.size(), static_cast<std::size_t>(kCount)) << level;
+        EXPECT_LE(puzzles.size(), static_cast<std::size_t>(kCount)) << level;
+        // Those above may be too rare for so few tries.
+        EXPECT_TRUE(level > 7 || puzzles.size() == static_cast<std::size_t>(kCount)) << level;
+        made += puzzles.size();
         for (const PuzzleRecord& puzzle : puzzles) {
             different.insert(puzzle.clues);
             EXPECT_EQ(UniqueSud(puzzle.clues).solution, puzzle.solution);
             Solver solver(Grid::FromClues(puzzle.clues));
-            const int rating = RatingOf(solver, RunToTheEnd(solver, FixedLadder()));
-            EXPECT_TRUE(level <= 3 ? rating == level : rating > 3) << level << ' ' << rating;
+            EXPECT_EQ(RatingOf(solver, RunToTheEnd(solver, FixedLadder())), level);
         }
     }
-    EXPECT_EQ(different.size(), static_cast<std::size_t>(kCount * kLevels));
+    EXPECT_EQ(different.size(), made);
 }
 
 TEST(LevelMaker, ACorpusHoldsEasyAndHardPuzzlesInTurn) {

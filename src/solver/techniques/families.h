@@ -117,6 +117,56 @@ void BUG(const Position& position, const Args& args, FindSink& sink);
 std::string BUGLog(const Find& find);
 std::string BUGHint(const Find& find);
 
+// 3D Medusa
+void Medusa(const Position& position, const Args& args, FindSink& sink);
+std::string MedusaLog(const Find& find);
+std::string MedusaHint(const Find& find);
+
+// Sue-de-Coq
+void SueDeCoq(const Position& position, const Args& args, FindSink& sink);
+std::string SueDeCoqLog(const Find& find);
+std::string SueDeCoqHint(const Find& find);
+
+// aligned exclusions
+void APE(const Position& position, const Args& args, FindSink& sink);
+void ExtendedAPE(const Position& position, const Args& args, FindSink& sink);
+void ATE(const Position& position, const Args& args, FindSink& sink);
+void ExtendedATE(const Position& position, const Args& args, FindSink& sink);
+std::string PairExclusionLog(const Find& find);
+std::string PairExclusionHint(const Find& find);
+std::string TripleExclusionLog(const Find& find);
+std::string TripleExclusionHint(const Find& find);
+
+// loops and chains of links
+void NiceLoops(const Position& position, const Args& args, FindSink& sink);
+void AIC(const Position& position, const Args& args, FindSink& sink);
+std::string NiceLoopLog(const Find& find);
+std::string NiceLoopHint(const Find& find);
+std::string AlternatingChainLog(const Find& find);
+std::string AlternatingChainHint(const Find& find);
+
+// chains of bivalue cells
+void XYChain(const Position& position, const Args& args, FindSink& sink);
+std::string XYChainLog(const Find& find);
+std::string XYChainHint(const Find& find);
+
+// pairs of almost locked sets
+void ALSxz(const Position& position, const Args& args, FindSink& sink);
+std::string ALSxzLog(const Find& find);
+std::string ALSxzHint(const Find& find);
+
+// locked sets of several digits on rows and columns
+void MultiFish(const Position& position, const Args& args, FindSink& sink);
+std::string MultiFishLog(const Find& find);
+std::string MultiFishHint(const Find& find);
+
+// forcing chains
+void Forcing(const Position& position, const Args& args, FindSink& sink);
+std::string ForcingFromCellLog(const Find& find);
+std::string ForcingFromCellHint(const Find& find);
+std::string ForcingFromUnitLog(const Find& find);
+std::string ForcingFromUnitHint(const Find& find);
+
 // bifurcation
 void Bifurcation(Solver& solver, FindSink& sink);
 std::string BifurcationLog(const Find& find);
