@@ -14,10 +14,9 @@
 
 #include "cli/options.h"
 #include "puzzle_list.h"
+#include "random_puzzles.h"
 #include "solver/brute_force.h"
 #include "solver/solver.h"
-#include "tools/level_maker.h"
-#include "tools/random.h"
 
 namespace vemo {
 namespace {
@@ -29,7 +28,7 @@ struct Tally {
 };
 
 // By kind, then variant.
-using Tallies = std::array<std::vector<Tally>, static_cast<std::size_t>(HintKind::MultiFish) + 1>;
+using Tallies = std::array<std::vector<Tally>, kHintKinds + 1>;
 
 bool IsExempt(HintKind kind) {
     return kind == HintKind::BivalueGrave;
@@ -183,12 +182,10 @@ bool JudgeFile(const std::string& name, Run& run) {
     return true;
 }
 
-// As few clues as go, in half of the puzzles; a few more, and so more states, in the others.
 void JudgeRandomPuzzles(std::uint64_t count, Run& run) {
     for (std::uint64_t made = 0; made < count; ++made) {
-        const Digits solution = RandomSolution(run.random);
-        const int fewest = made % 2 == 0 ? 0 : 26;
-        run.Walk(DigClues(solution, Symmetry::None, fewest, run.random), solution);
+        const RandomPuzzle puzzle = MakeRandomPuzzle(made, run.random);
+        run.Walk(puzzle.clues, puzzle.solution);
     }
 }
 

@@ -30,7 +30,7 @@ struct Target {
 
 std::vector<std::string_view> AllTitles() {
     std::vector<std::string_view> all;
-    for (int kind = 1; kind <= static_cast<int>(HintKind::MultiFish); ++kind) {
+    for (int kind = 1; kind <= kHintKinds; ++kind) {
         const auto titles = HintTitles(static_cast<HintKind>(kind));
         all.insert(all.end(), titles.begin(), titles.end());
     }

@@ -23,7 +23,7 @@ constexpr Option kOptions[] = {kOutputOption, kSeedOption,        kCountOption, 
                                kCorpusOption, kCorpusCountOption, kQuietOption};
 
 constexpr std::uint64_t kMostPuzzles = 100'000;
-constexpr std::uint64_t kMostTries = 1'000;
+constexpr std::uint64_t kMostTries = 10'000;
 
 std::string Notes() {
     return "Writes Sudoku_Easy.sds to Sudoku_Outlaw.sds, or a list of puzzles, one a line,\n"
@@ -90,13 +90,13 @@ MakerProgress ProgressOn(Progress& progress, const char* what) {
 }
 
 ExitCode Failure(Streams& streams, const FileError& error) {
-    Tell(streams, error.path.string() + ": " + error.reason);
+    Tell(streams, Utf8(error.path) + ": " + error.reason);
     return ExitCode::InputOutput;
 }
 
 // The report of a file that stands: its name TAB the number of puzzles.
 ExitCode Report(Streams& streams, const std::filesystem::path& path, std::size_t count) {
-    const std::string line = path.string() + '\t' + std::to_string(count) + '\n';
+    const std::string line = Utf8(path) + '\t' + std::to_string(count) + '\n';
     return WriteResult(streams, line) ? ExitCode::Fine : ExitCode::InputOutput;
 }
 

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "game/entry.h"
 #include "game/hints.h"
 #include "game/play_levels.h"
 #include "solver/solver.h"
@@ -34,14 +33,14 @@ void ShowStep(Stage& stage, const Solver& solver) {
     if (session.isScanBusy) {
         return;
     }
-    Speel(stage, solver.LastFind().placements.Empty() ? Sound::Discard : Sound::Assign);
+    Speel(stage, Sound::Hint);
     stage.show();
     stage.view.Pause(kStepStands, [&session] { return session.isStopRequested; });
 }
 
 // Steps, each shown, until the grid is full or a pass ends in anything but a step.
 PassResult RunPasses(Stage& stage, Solver& solver) {
-    const BusyScan busy(stage);
+    const LongFunction busy(stage.session);
     const Ladder ladder = AutosolveLadder(stage.techniques);
     while (!stage.session.IsFull()) {
         const PassResult result = solver.Pass(ladder);
@@ -62,11 +61,10 @@ void ShowAsHint(Stage& stage, const Find& find) {
 void ShowNextStep(Stage& stage) {
     Ladder ladder = HintLadder(stage.techniques);
     std::erase_if(ladder, [](const LadderStep& at) { return at.step->trial != nullptr; });
-    Solver solver(stage.session.grid);
+    Solver solver = BoardSolver(stage);
     PassResult result = PassResult::Nothing;
     {
-        const BusyScan busy(stage);
-        solver.SetStepWatcher(ScanWatcher(stage));
+        const LongFunction busy(stage.session);
         result = solver.Pass(ladder);
     }
     if (result == PassResult::Hint) {
@@ -117,12 +115,10 @@ RunEnd RunOnPuzzle(Stage& stage) {
     if (ReportEntries(stage, Reporter::Autosolve)) {
         return RunEnd::Reported;
     }
-    DropHint(stage);
+    stage.session.DropHint();
     stage.session.isAutosolved = true;
     stage.log.AddText("\r\nStart Solving\r\n");
-    Solver solver(stage.session.grid);
-    solver.SetLog([&stage](std::string_view line) { stage.log.AddLine(line); });
-    solver.SetStepWatcher(ScanWatcher(stage));
+    Solver solver = BoardSolver(stage);
     return EndOf(stage, solver, RunPasses(stage, solver));
 }
 
@@ -148,7 +144,7 @@ std::optional<int> InsistOnNumber(Stage& stage, const char* title, Range range,
 std::optional<Range> AskRange(Stage& stage, int level) {
     if (!stage.files.HasPuzzleFile(level)) {
         Tell(stage, "File error",
-             "Source file: " + stage.files.PuzzlePath(level).string() + " not found!");
+             "Source file: " + Utf8(stage.files.PuzzlePath(level)) + " not found!");
         return std::nullopt;
     }
     const int count = stage.files.PuzzleCount(level);
@@ -228,12 +224,14 @@ ScanTally ScanRange(Stage& stage, int level, Range range) {
 }  // namespace
 
 bool MayAutosolve(const Stage& stage) {
-    return IsBoardOn(stage) && !IsBrushOrLinkMode(stage) && !IsSimpleMode(stage);
+    const Session& session = stage.session;
+    return session.IsBoardOn() && !session.IsBrushOrLinkMode() && !IsSimpleMode(stage);
 }
 
 bool MayScan(const Stage& stage) {
-    const int level = TargetLevel(stage.session);
-    return level != 0 && !stage.session.IsMaking() && !IsBrushOrLinkMode(stage) &&
+    const Session& session = stage.session;
+    const int level = TargetLevel(session);
+    return level != 0 && !session.IsMaking() && !session.IsBrushOrLinkMode() &&
            !IsSimpleLevel(stage, level);
 }
 

@@ -38,20 +38,19 @@ int Brushes::Armed(MouseButton button) const {
     return button == MouseButton::Left ? left_ : right_;
 }
 
-bool Brushes::PaintCell(int cell, MouseButton button) {
+void Brushes::PaintCell(int cell, MouseButton button) {
     const int brush = Armed(button);
     if (brush == kNoBrush) {
-        return false;
+        return;
     }
     int& color = cells_[static_cast<std::size_t>(cell)];
     color = color == brush ? kNoBrush : brush;
-    return true;
 }
 
-bool Brushes::PaintUnit(UnitKind kind, int index, MouseButton button) {
+void Brushes::PaintUnit(UnitKind kind, int index, MouseButton button) {
     const int brush = Armed(button);
     if (brush == kNoBrush) {
-        return false;
+        return;
     }
     int& label = labels_[LabelIndex(kind, index)];
     const bool takesOff = label == brush;
@@ -62,7 +61,6 @@ bool Brushes::PaintUnit(UnitKind kind, int index, MouseButton button) {
             color = label;
         }
     }
-    return true;
 }
 
 int Brushes::LabelColor(UnitKind kind, int index) const {

@@ -26,12 +26,12 @@ class Brushes {
     int Armed(MouseButton button) const;
     bool IsArmed() const { return left_ != kNoBrush || right_ != kNoBrush; }
 
-    // Paints with the brush of this button, or takes the paint off where it is that colour
-    // already. Answers whether a brush was armed for the button.
-    bool PaintCell(int cell, MouseButton button);
+    // Paints with the brush of this button, if one is armed, or takes the paint off where it is
+    // that colour already.
+    void PaintCell(int cell, MouseButton button);
     // The nine cells of a row or column and its label, which tells whether the paint is on. Taken
     // off, it goes from the cells that have this colour.
-    bool PaintUnit(UnitKind kind, int index, MouseButton button);
+    void PaintUnit(UnitKind kind, int index, MouseButton button);
 
     int CellColor(int cell) const { return cells_[static_cast<std::size_t>(cell)]; }
     int LabelColor(UnitKind kind, int index) const;

@@ -11,11 +11,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string Utf8(const fs::path& path) {
-    const std::u8string name = path.u8string();
-    return {name.begin(), name.end()};
-}
-
 bool IsTextFileName(const fs::path& path) {
     std::string extension = Utf8(path.extension());
     std::ranges::transform(extension, extension.begin(), [](char letter) {
@@ -49,10 +44,10 @@ std::string TextOf(const Bytes& bytes) {
 DroppedText ReadFile(Files& files, const fs::path& path) {
     const std::string file = Utf8(path.filename());
     const std::optional<std::uint64_t> size = files.Size(path);
-    if (size && *size > kMostText) {
+    if (size && *size > kMostOfFile) {
         return {"", "This file is too large to be a sudoku, it has more than 1 MB: " + file};
     }
-    const std::optional<Bytes> bytes = size ? files.ReadAt(path, 0, kMostText) : std::nullopt;
+    const std::optional<Bytes> bytes = size ? files.ReadAt(path, 0, kMostOfFile) : std::nullopt;
     if (!bytes) {
         return {"", "This file cannot be read: " + file};
     }

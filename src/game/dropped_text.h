@@ -9,8 +9,10 @@
 
 namespace vemo {
 
-// No more bytes than these are read from a file or kept of a text.
-inline constexpr std::size_t kMostText = 1 << 20;
+// No more bytes than these are read from a file, and kept of a text: much more than any sudoku has,
+// and little enough to be typed into without a wait.
+inline constexpr std::size_t kMostOfFile = 1 << 20;
+inline constexpr std::size_t kMostText = 1 << 15;
 
 struct DroppedText {
     std::string text;   // UTF-8, without a byte-order mark

@@ -1,10 +1,10 @@
 // Cell entry.
 #include "game/entry.h"
 
-#include "game/hints.h"
 #include "game/maker.h"
 #include "game/pencilmarks.h"
 #include "game/play_levels.h"
+#include "game/timer.h"
 #include "solver/catalogue.h"
 
 namespace vemo {
@@ -28,7 +28,7 @@ std::string NumberAt(int digit, int cell, const char* verb) {
 }
 
 void EndStep(Stage& stage, Sound sound) {
-    DropHint(stage);
+    stage.session.DropHint();
     stage.session.textHint.clear();
     Speel(stage, sound);
     ZetOpgelost(stage);
@@ -75,7 +75,7 @@ void ClickMark(Stage& stage, int cell, int digit, MouseButton button) {
 bool CanType(Stage& stage) {
     const Session& session = stage.session;
     const int cell = session.selectedCell;
-    if (!IsBoardOn(stage) || cell == kNoCell || session.grid.IsGiven(cell)) {
+    if (!session.IsBoardOn() || cell == kNoCell || session.grid.IsGiven(cell)) {
         return false;
     }
     if (session.brushes.IsArmed() && !session.links.IsOn()) {
@@ -105,23 +105,15 @@ int NextCell(int cell, Direction direction, Jump jump) {
 
 }  // namespace
 
-bool IsBoardOn(const Stage& stage) {
-    return stage.session.IsPlaying() && !stage.session.isStoppedByPlayer;
-}
-
-bool IsBrushOrLinkMode(const Stage& stage) {
-    return stage.session.brushes.IsArmed() || stage.session.links.IsOn();
-}
-
 void ClickBoard(Stage& stage, int cell, int digit, MouseButton button) {
-    if (stage.session.IsMaking()) {
+    Session& session = stage.session;
+    if (session.IsMaking()) {
         ClickClue(stage, cell, digit, button);
         return;
     }
-    if (!IsBoardOn(stage)) {
+    if (!session.IsBoardOn()) {
         return;
     }
-    Session& session = stage.session;
     session.selectedCell = cell;
     if (session.brushes.IsArmed() && !session.links.IsOn()) {
         session.brushes.PaintCell(cell, button);
@@ -132,7 +124,7 @@ void ClickBoard(Stage& stage, int cell, int digit, MouseButton button) {
 
 void ClickLabel(Stage& stage, UnitKind kind, int index, MouseButton button) {
     Session& session = stage.session;
-    if (!IsBoardOn(stage) || session.links.IsOn()) {
+    if (!session.IsBoardOn() || session.links.IsOn()) {
         return;
     }
     if (button == MouseButton::Left && session.hintColors.IsRedLabel(kind, index)) {
@@ -193,10 +185,10 @@ void ToggleMarkBySelection(Stage& stage, int digit) {
 }
 
 void MoveSelectionBy(Stage& stage, Direction direction, Jump jump) {
-    if (!IsBoardOn(stage) && !stage.session.IsMaking()) {
+    Session& session = stage.session;
+    if (!session.IsBoardOn() && !session.IsMaking()) {
         return;
     }
-    Session& session = stage.session;
     const int start = session.selectedCell;
     if (start == kNoCell) {
         session.selectedCell = 0;
@@ -209,16 +201,40 @@ void MoveSelectionBy(Stage& stage, Direction direction, Jump jump) {
     session.selectedCell = cell;
 }
 
+void ApplyHint(Stage& stage) {
+    Session& session = stage.session;
+    if (!session.hint || !session.IsBoardOn()) {
+        return;
+    }
+    const Find find = *session.hint;
+    Joined joined = Joined::No;
+    for (const auto& [cell, digit] : find.placements) {
+        if (session.grid.KnopAan(cell, digit)) {
+            session.history.Place(session.grid, cell, digit, joined);
+            joined = Joined::Yes;
+        }
+    }
+    for (const auto& [cell, digit] : find.removals) {
+        // Kept: the Bivalue Universal Grave can speak against the solution; the right digit stays.
+        const bool isRight = session.puzzle.solution[cell] == digit;
+        if (session.grid.KnopAan(cell, digit) && !isRight) {
+            session.history.Discard(session.grid, cell, digit, joined);
+            joined = Joined::Yes;
+        }
+    }
+    EndStep(stage, find.placements.Empty() ? Sound::Discard : Sound::Assign);
+}
+
 void UndoStep(Stage& stage) {
     Session& session = stage.session;
-    if (IsBoardOn(stage) && !IsBrushOrLinkMode(stage) && session.history.Undo(session.grid)) {
+    if (session.IsBoardOn() && !session.IsBrushOrLinkMode() && session.history.Undo(session.grid)) {
         EndStep(stage, Sound::UndoRedo);
     }
 }
 
 void RedoStep(Stage& stage) {
     Session& session = stage.session;
-    if (IsBoardOn(stage) && !IsBrushOrLinkMode(stage) && session.history.Redo(session.grid)) {
+    if (session.IsBoardOn() && !session.IsBrushOrLinkMode() && session.history.Redo(session.grid)) {
         EndStep(stage, Sound::UndoRedo);
     }
 }
@@ -230,7 +246,7 @@ void ResetCell(Stage& stage) {
         return;
     }
     const int cell = session.selectedCell;
-    if (!IsBoardOn(stage) || cell == kNoCell || session.grid.IsGiven(cell)) {
+    if (!session.IsBoardOn() || cell == kNoCell || session.grid.IsGiven(cell)) {
         return;
     }
     if (session.grid.Digit(cell) == 0) {
@@ -243,7 +259,7 @@ void ResetCell(Stage& stage) {
 
 void Restart(Stage& stage) {
     Session& session = stage.session;
-    if (session.phase != PlayPhase::SolutionShown && !IsBoardOn(stage)) {
+    if (session.phase != PlayPhase::SolutionShown && !session.IsBoardOn()) {
         return;
     }
     session.phase = PlayPhase::Playing;
@@ -251,29 +267,25 @@ void Restart(Stage& stage) {
     session.history.Clear();
     session.brushes.Clear();
     session.links.Clear();
-    DropHint(stage);
+    session.DropHint();
     session.textHint = HelpText();
-    session.clock.Reset();
-    if (stage.options.timeOn) {
-        session.clock.Start(stage.clock.SecondOfDay());
-    }
+    StartClock(stage, 0);
     Speel(stage, Sound::Discard);
 }
 
 void ShowSolution(Stage& stage) {
-    if (!IsBoardOn(stage)) {
+    Session& session = stage.session;
+    if (!session.IsBoardOn()) {
         return;
     }
-    Session& session = stage.session;
     const CellSet clues = session.grid.Givens();
     session.grid = Grid::FromClues(session.puzzle.solution);
     session.grid.SetGivens(clues);
     session.phase = PlayPhase::SolutionShown;
     // One mark bars saving and statistics, here as after Autosolve, and outlives a restart.
     session.isAutosolved = true;
-    session.clock.Tick(stage.clock.SecondOfDay());
-    session.clock.Stop();
-    DropHint(stage);
+    UpdateClock(stage);
+    session.DropHint();
     session.textHint.clear();
     Speel(stage, Sound::Solution);
 }

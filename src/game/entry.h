@@ -8,10 +8,6 @@ namespace vemo {
 enum class Direction : std::uint8_t { Left, Right, Up, Down };
 enum class Jump : std::uint8_t { NextCell, NextEmptyCell };
 
-// The board is on: a puzzle is being played, the clock is not stopped by the player. What acts on
-// the puzzle does nothing while it is off.
-bool IsBoardOn(const Stage& stage);
-
 // What is refused for a reason that cannot be seen leaves a short text in the hint text box; an
 // explanation on display stays above it. Clues are left alone in silence.
 
@@ -34,6 +30,8 @@ void ToggleMarkBySelection(Stage& stage, int digit);
 // left and right, column after column for up and down.
 void MoveSelectionBy(Stage& stage, Direction direction, Jump jump);
 
+// Carries out the hint on display as one undoable step; it charges nothing more.
+void ApplyHint(Stage& stage);
 void UndoStep(Stage& stage);
 void RedoStep(Stage& stage);
 // The selected cell: its digit off, or all its legal marks back.
@@ -42,8 +40,5 @@ void ResetCell(Stage& stage);
 void Restart(Stage& stage);
 // Shows all digits. The puzzle counts as played by the program from here on.
 void ShowSolution(Stage& stage);
-
-// Undo, Redo and Autosolve are off while a brush is armed or link mode is on.
-bool IsBrushOrLinkMode(const Stage& stage);
 
 }  // namespace vemo

@@ -6,36 +6,16 @@
 #include "game/hints.h"
 #include "game/maker.h"
 #include "game/menus.h"
-#include "game/pencilmarks.h"
 #include "game/play_levels.h"
 #include "game/play_times.h"
 #include "game/screen_maker.h"
 #include "game/startup.h"
+#include "game/timer.h"
 
 namespace vemo {
 namespace {
 
 constexpr const char* kWebAddress = "https://vemo.example/sudoku";
-
-// The clock runs while the timer is on, a puzzle is played, and nobody has stopped it.
-bool ShallClockRun(const Stage& stage) {
-    return stage.options.timeOn && stage.session.IsPlaying() && !stage.session.isMinimized &&
-           !stage.session.isStoppedByPlayer;
-}
-
-void UpdateClock(Stage& stage) {
-    PlayClock& clock = stage.session.clock;
-    if (!ShallClockRun(stage)) {
-        clock.Stop();
-    } else if (!clock.IsRunning()) {
-        clock.Resume(stage.clock.SecondOfDay());
-    }
-}
-
-void StopClockNow(Stage& stage) {
-    stage.session.clock.Tick(stage.clock.SecondOfDay());
-    UpdateClock(stage);
-}
 
 }  // namespace
 
@@ -59,6 +39,10 @@ void Game::Handle(Event event) {
     Show();
 }
 
+void Game::Flip(bool Options::*option) {
+    Handle([&](Stage& stage) { FlipOption(stage, option); });
+}
+
 void Game::FormLoad() {
     Handle([](Stage& stage) { StartUp(stage); });
 }
@@ -72,8 +56,7 @@ bool Game::FormQueryUnload() {
 void Game::FormResize(WindowState state) {
     const bool isMinimized = state == WindowState::Minimized;
     if (stage_.session.isMinimized != isMinimized) {
-        stage_.session.isMinimized = isMinimized;
-        StopClockNow(stage_);
+        SetMinimized(stage_, isMinimized);
         Show();
     }
 }
@@ -136,13 +119,7 @@ void Game::CommandApplyClick() {
 }
 
 void Game::CommandPauseClick() {
-    Handle([](Stage& stage) {
-        Session& session = stage.session;
-        if (session.IsPlaying() && stage.options.timeOn) {
-            session.isStoppedByPlayer = !session.isStoppedByPlayer;
-            StopClockNow(stage);
-        }
-    });
+    Handle(TogglePause);
 }
 
 void Game::TextHintDblClick() {
@@ -275,15 +252,15 @@ void Game::mnuSolveStop() {
 }
 
 void Game::mnuPencilmarksMode() {
-    Handle(TogglePencilmarksMode);
+    Flip(&Options::pencilmarks);
 }
 
 void Game::mnuPencilmarksOff() {
-    Handle(TogglePencilmarksOff);
+    Flip(&Options::pencilmarksOff);
 }
 
 void Game::mnuPencilmarksDimmed() {
-    Handle(TogglePencilmarksDimmed);
+    Flip(&Options::dimmed);
 }
 
 void Game::mnuEraseSudokuTime() {
@@ -299,19 +276,15 @@ void Game::mnuEraseAllTime() {
 }
 
 void Game::mnuOptionsTimer() {
-    Handle([](Stage& stage) {
-        stage.session.isStoppedByPlayer = false;
-        FlipOption(stage, &Options::timeOn);
-        UpdateClock(stage);
-    });
+    Handle(ToggleTimer);
 }
 
 void Game::mnuOptionsSounds() {
-    Handle([](Stage& stage) { FlipOption(stage, &Options::sounds); });
+    Flip(&Options::sounds);
 }
 
 void Game::mnuOptionsWells() {
-    Handle([](Stage& stage) { FlipOption(stage, &Options::wells); });
+    Flip(&Options::wells);
 }
 
 void Game::mnuOptionsSmallWindow() {

@@ -114,6 +114,8 @@ class Game {
     // Runs one event unless a long function bars it, then shows the screen anew.
     template <typename Event>
     void Handle(Event event);
+    // An option that only the screen follows.
+    void Flip(bool Options::*option);
     void Show();
 
     Stage stage_;

@@ -31,19 +31,16 @@ bool IsRoleOnBoard(const Screen& screen, Role role) {
     });
 }
 
-std::vector<LegendEntry> MakeLegend(const Screen& screen) {
-    const bool hasTwoColors = IsRoleOnBoard(screen, Role::Second);
-    const std::array<LegendEntry, 4> all = {{
-        {Role::Pattern, hasTwoColors ? "one color" : "pattern"},
-        {Role::Second, "other color"},
-        {Role::Attacked, "goes"},
-        {Role::Placed, "comes here"},
-    }};
-    std::vector<LegendEntry> legend;
-    std::ranges::copy_if(all, std::back_inserter(legend), [&](const LegendEntry& entry) {
-        return IsRoleOnBoard(screen, entry.role);
-    });
-    return legend;
+// With an arrow head where some have one; nothing where there is none of this strength.
+std::optional<LinkLook> LookOf(const std::vector<LinkView>& links, Find::Strength strength) {
+    std::optional<LinkLook> look;
+    for (const LinkView& link : links) {
+        if (link.isStrong != (strength == Find::Strength::Strong)) {
+            continue;
+        }
+        look = LinkLook{link.isStrong, link.isDirected || (look && look->isDirected)};
+    }
+    return look;
 }
 
 }  // namespace
@@ -137,6 +134,27 @@ void HintColors::Show(const Find& find) {
     for (const ChainLink& link : find.links) {
         AddLink(link);
     }
+    words_ = ColorWordsOf(find);
+}
+
+std::vector<LegendEntry> HintColors::LegendFor(const Screen& screen) const {
+    const std::array<LegendEntry, 4> roles = {{
+        {Role::Pattern, std::string(words_.first)},
+        {Role::Second, std::string(words_.second)},
+        {Role::Attacked, "goes"},
+        {Role::Placed, "comes here"},
+    }};
+    std::vector<LegendEntry> legend;
+    std::ranges::copy_if(roles, std::back_inserter(legend), [&](const LegendEntry& entry) {
+        return IsRoleOnBoard(screen, entry.role);
+    });
+    if (const std::optional<LinkLook> look = LookOf(links_, Find::Strength::Strong)) {
+        legend.push_back({Role::None, "strong link", look});
+    }
+    if (const std::optional<LinkLook> look = LookOf(links_, Find::Strength::Weak)) {
+        legend.push_back({Role::None, "weak link", look});
+    }
+    return legend;
 }
 
 void HintColors::PaintOn(Screen& screen) const {
@@ -155,7 +173,7 @@ void HintColors::PaintOn(Screen& screen) const {
         screen.columnLabels[Index(index)].isRed = IsRedLabel(UnitKind::Column, index);
     }
     screen.links.insert(screen.links.end(), links_.begin(), links_.end());
-    screen.legend = MakeLegend(screen);
+    screen.legend = LegendFor(screen);
 }
 
 }  // namespace vemo

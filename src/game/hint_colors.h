@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "game/screen.h"
-#include "solver/find.h"
+#include "solver/catalogue.h"
 
 namespace vemo {
 
@@ -33,7 +33,7 @@ class HintColors {
     void Show(const Find& find);
 
     // Into a screen whose marks are shown or hidden already: tints, the roles of the marks shown,
-    // red labels, links, and the legend of the roles that can be seen.
+    // red labels, links, and the legend of what can be seen of them.
     void PaintOn(Screen& screen) const;
 
   private:
@@ -41,6 +41,7 @@ class HintColors {
     void ShowPattern(const Find& find);
     void ShowDisplaced(const Find& find, int placedCell, int digit);
     void AddLink(const ChainLink& link);
+    std::vector<LegendEntry> LegendFor(const Screen& screen) const;
 
     CellSet hintCells_;
     CellSet unitTint_;
@@ -48,6 +49,7 @@ class HintColors {
     std::array<std::array<Role, kDigits>, kCells> roles_{};
     std::array<bool, 18> redLabels_{};  // rows, then columns
     std::vector<LinkView> links_;
+    ColorWords words_;
 };
 
 }  // namespace vemo

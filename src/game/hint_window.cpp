@@ -28,14 +28,7 @@ constexpr int kMostPictures = 9999;
 // The places for pictures: beside the program; where that cannot be written, with the player's
 // data.
 std::array<fs::path, 2> PictureFolders(const Stage& stage) {
-    return {stage.folders.Executable() / "Screenshots",
-            stage.folders.LocalApplicationData() / kApplicationName / "Screenshots"};
-}
-
-// For the player's eyes; any name can be shown so.
-std::string TextOf(const fs::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
+    return {stage.folders.Executable() / "Screenshots", stage.files.DataFolder() / "Screenshots"};
 }
 
 fs::path PathOf(const fs::path& folder, const std::string& name) {
@@ -75,13 +68,7 @@ bool HasExtension(std::string_view name) {
 
 // Blanks and dots at a name's end are lost on some systems, and a dot at its begin hides the file
 // on others.
-std::string Trimmed(const std::string& name) {
-    constexpr const char* kLost = " .";
-    const std::size_t first = name.find_first_not_of(kLost);
-    return first == std::string::npos
-               ? std::string()
-               : name.substr(first, name.find_last_not_of(kLost) - first + 1);
-}
+constexpr const char* kLostInNames = " .";
 
 // As it can be a file's name, without the extension; empty where nothing is left of it.
 std::string CleanName(std::string name) {
@@ -91,11 +78,11 @@ std::string CleanName(std::string name) {
             character = '_';
         }
     }
-    name = Trimmed(name);
+    name = Trimmed(name, kLostInNames);
     if (HasExtension(name)) {
         name.resize(name.size() - kExtension.size());
     }
-    return Trimmed(name);
+    return Trimmed(name, kLostInNames);
 }
 
 // Makes the folder and writes the picture into it. `isKept`: a file is there, and stays.
@@ -108,7 +95,7 @@ Saving SavePicture(Stage& stage, const fs::path& path, const Bytes& picture) {
         return {FileError{path, std::move(error->reason)}};
     }
     const std::string question =
-        "The file " + TextOf(path) + " exists already. Do you want to replace it ?";
+        "The file " + Utf8(path) + " exists already. Do you want to replace it ?";
     if (Exists(path) && !AskYesNo(stage, kSaveTitle, question)) {
         return {std::nullopt, true};
     }
@@ -164,7 +151,7 @@ void ShowHint(Stage& stage) {
 
 HintWindow MakeHintWindow(const Stage& stage) {
     HintWindow window = stage.hintWindow;
-    if (window.isOpen && IsCovered(stage.session)) {
+    if (window.isOpen && stage.session.IsCovered()) {
         window.board = MakeScreen(stage);
         window.caption = kNoHint;
         window.text = window.board.textHint;
@@ -218,7 +205,7 @@ void SaveHintWindow(Stage& stage) {
         const fs::path path = PathOf(folder, name);
         saving = SavePicture(stage, path, picture);
         if (!saving.error) {
-            stage.hintWindow.note = saving.isKept ? "" : "Saved as " + TextOf(path);
+            stage.hintWindow.note = saving.isKept ? "" : "Saved as " + Utf8(path);
             return;
         }
     }

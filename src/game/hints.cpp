@@ -3,9 +3,8 @@
 
 #include "game/checks.h"
 #include "game/hint_window.h"
-#include "game/pencilmarks.h"
-#include "game/play_levels.h"
 #include "game/simple_hints.h"
+#include "game/timer.h"
 
 namespace vemo {
 namespace {
@@ -25,11 +24,20 @@ void TellNothingFound(Stage& stage, const char* text) {
     stage.session.textHint = text;
 }
 
+Solver::StepWatcher ScanWatcher(Stage& stage) {
+    return [&stage](const Step& step) {
+        stage.session.textHint = step.statusText;
+        stage.show();
+        stage.view.Yield();
+        return !stage.session.isStopRequested;
+    };
+}
+
 void GiveSimpleHint(Stage& stage) {
     Session& session = stage.session;
     std::optional<SimpleHint> hint;
     {
-        const BusyScan busy(stage);
+        const LongFunction busy(session);
         hint = SpecialHint(session.grid, ScanWatcher(stage));
     }
     if (session.isStopRequested) {
@@ -49,11 +57,10 @@ void GiveSimpleHint(Stage& stage) {
 
 void GiveTechniqueHint(Stage& stage) {
     Session& session = stage.session;
-    Solver solver(session.grid);
+    Solver solver = BoardSolver(stage);
     PassResult result = PassResult::Nothing;
     {
-        const BusyScan busy(stage);
-        solver.SetStepWatcher(ScanWatcher(stage));
+        const LongFunction busy(session);
         result = solver.Pass(HintLadder(stage.techniques));
     }
     if (result == PassResult::Stopped) {
@@ -86,21 +93,11 @@ void ColorStaleMark(Session& session, const StaleMark& stale, Reporter reporter)
 
 }  // namespace
 
-void DropHint(Stage& stage) {
-    Session& session = stage.session;
-    session.hintColors.WisKleuren();
-    session.hint.reset();
-    session.hintCaption.clear();
-    session.showMe.reset();
-}
-
-Solver::StepWatcher ScanWatcher(Stage& stage) {
-    return [&stage](const Step& step) {
-        stage.session.textHint = step.statusText;
-        stage.show();
-        stage.view.Yield();
-        return !stage.session.isStopRequested;
-    };
+Solver BoardSolver(Stage& stage) {
+    Solver solver(stage.session.grid);
+    solver.SetLog([&stage](std::string_view line) { stage.log.AddLine(line); });
+    solver.SetStepWatcher(ScanWatcher(stage));
+    return solver;
 }
 
 bool ShowHiddenMarks(Stage& stage, const char* question) {
@@ -110,7 +107,7 @@ bool ShowHiddenMarks(Stage& stage, const char* question) {
     if (!AskYesNo(stage, "Hidden pencilmarks detected", question)) {
         return false;
     }
-    TogglePencilmarksMode(stage);
+    FlipOption(stage, &Options::pencilmarks);
     return true;
 }
 
@@ -127,21 +124,21 @@ bool ReportEntries(Stage& stage, Reporter reporter) {
     Session& session = stage.session;
     const Digits& solution = session.puzzle.solution;
     if (const std::optional<int> cell = FindBadSolvedCell(session.grid, solution)) {
-        DropHint(stage);
+        session.DropHint();
         session.hintColors.ZetHintVak(*cell);
         session.hintColors.MarkWrong(*cell);
         Report(stage, BadSolvedCellText(*cell, session.grid.Digit(*cell)));
         return true;
     }
     if (const std::optional<int> cell = FindMissingCandidate(session.grid, solution)) {
-        DropHint(stage);
+        session.DropHint();
         session.hintColors.ZetHintVak(*cell);
         const char* advice = reporter == Reporter::Hint ? "" : " - Use [Undo] or [Reset Cell]";
         Report(stage, MissingCandidateText(*cell) + advice);
         return true;
     }
     if (const std::optional<StaleMark> stale = FindStaleMark(session.grid)) {
-        DropHint(stage);
+        session.DropHint();
         ColorStaleMark(session, *stale, reporter);
         Report(stage, StaleMarkText(*stale));
         return true;
@@ -152,10 +149,11 @@ bool ReportEntries(Stage& stage, Reporter reporter) {
 void GiveHint(Stage& stage) {
     const char* question =
         "All pencilmarks must be visible to make hints available. Make them visible ?";
-    if (!ShowHiddenMarks(stage, question) || ReportEntries(stage, Reporter::Hint)) {
+    if (!stage.session.IsBoardOn() || !ShowHiddenMarks(stage, question) ||
+        ReportEntries(stage, Reporter::Hint)) {
         return;
     }
-    DropHint(stage);
+    stage.session.DropHint();
     if (IsSimpleMode(stage)) {
         GiveSimpleHint(stage);
     } else {
@@ -164,43 +162,17 @@ void GiveHint(Stage& stage) {
 }
 
 void ShowMe(Stage& stage) {
-    if (!stage.session.showMe) {
-        return;
-    }
-    const CellDigit target = *stage.session.showMe;
-    DropHint(stage);
-    Speel(stage, Sound::Hint);
-    stage.session.hintColors.ZetHintVak(target.cell);
-    stage.session.hintColors.ZetHintNummer(target.cell, target.digit, Role::Placed);
-    stage.session.textHint = kSafeCellText;
-    Penalty(stage, kShowMePenalty);
-}
-
-void ApplyHint(Stage& stage) {
     Session& session = stage.session;
-    if (!session.hint || !session.IsPlaying()) {
+    if (!session.showMe || !session.IsBoardOn()) {
         return;
     }
-    const Find find = *session.hint;
-    Joined joined = Joined::No;
-    for (const auto& [cell, digit] : find.placements) {
-        if (session.grid.KnopAan(cell, digit)) {
-            session.history.Place(session.grid, cell, digit, joined);
-            joined = Joined::Yes;
-        }
-    }
-    for (const auto& [cell, digit] : find.removals) {
-        // Kept: the Bivalue Universal Grave can speak against the solution; the right digit stays.
-        const bool isRight = session.puzzle.solution[cell] == digit;
-        if (session.grid.KnopAan(cell, digit) && !isRight) {
-            session.history.Discard(session.grid, cell, digit, joined);
-            joined = Joined::Yes;
-        }
-    }
-    DropHint(stage);
-    session.textHint.clear();
-    Speel(stage, find.placements.Empty() ? Sound::Discard : Sound::Assign);
-    ZetOpgelost(stage);
+    const CellDigit target = *session.showMe;
+    session.DropHint();
+    Speel(stage, Sound::Hint);
+    session.hintColors.ZetHintVak(target.cell);
+    session.hintColors.ZetHintNummer(target.cell, target.digit, Role::Placed);
+    session.textHint = kSafeCellText;
+    Penalty(stage, kShowMePenalty);
 }
 
 }  // namespace vemo

@@ -6,35 +6,16 @@
 
 namespace vemo {
 
-// The whole command.
+// The whole command; nothing while the board is off.
 void GiveHint(Stage& stage);
 // Marks the digit of the pending target; nothing while there is none.
 void ShowMe(Stage& stage);
-// Carries out the hint on display as one undoable step; it charges nothing more.
-void ApplyHint(Stage& stage);
-
-// Any change of the grid: hint colours, the hint on display and a pending Show Me go.
-void DropHint(Stage& stage);
 
 // Below: what Autosolve shares with the hint.
 
-// While one lives, the board and the commands are off; Stop and the clock stay alive.
-class BusyScan {
-  public:
-    explicit BusyScan(Stage& stage) : session_(stage.session) {
-        session_.isFunctionBusy = true;
-        session_.isStopRequested = false;
-    }
-    ~BusyScan() { session_.isFunctionBusy = false; }
-    BusyScan(const BusyScan&) = delete;
-    BusyScan& operator=(const BusyScan&) = delete;
-
-  private:
-    Session& session_;
-};
-
-// Before each scan: its status text, and a chance for the window and for Stop.
-Solver::StepWatcher ScanWatcher(Stage& stage);
+// A solver of the puzzle as the player has it. Before each scan it shows its status text and gives
+// the window and Stop a chance; it writes into the solve log.
+Solver BoardSolver(Stage& stage);
 
 // Marks that are hidden are shown where the player agrees to the question; false otherwise.
 bool ShowHiddenMarks(Stage& stage, const char* question);

@@ -69,20 +69,32 @@ void NotePeers(UndoEntry& entry, CellSet changed) {
     entry.boxMask = PositionsIn(UnitAround(UnitKind::Box, entry.cell), peers);
 }
 
-void GiveMarks(Grid& grid, int cell, Marks marks) {
-    for (; marks != 0; marks &= static_cast<Marks>(marks - 1)) {
-        grid.GiveBack(cell, FirstDigit(marks));
-    }
-}
-
 void TakeMarks(Grid& grid, int cell, Marks marks) {
     for (; marks != 0; marks &= static_cast<Marks>(marks - 1)) {
         grid.VerwijderKnop(cell, FirstDigit(marks));
     }
 }
 
+// Autosolve fills cells without a step, and the steps before it can be taken back all the same. So
+// marks are given only where they are legal, only an empty cell is filled, and only its own digit
+// is taken off a cell.
+void GiveMarks(Grid& grid, int cell, Marks marks) {
+    for (marks &= LegalMarks(grid, cell); marks != 0; marks &= static_cast<Marks>(marks - 1)) {
+        grid.GiveBack(cell, FirstDigit(marks));
+    }
+}
+
+void Fill(Grid& grid, int cell, int digit) {
+    if (grid.Digit(cell) == 0) {
+        grid.Zet(digit, cell);
+    }
+}
+
 // Empties the cell; its digit is given back to every empty peer where it is legal again.
 void TakeDigitOff(Grid& grid, int cell, int digit) {
+    if (grid.Digit(cell) != digit) {
+        return;
+    }
     grid.TakeOff(cell);
     for (int peer : Peers(cell) & grid.EmptyCells()) {
         if (grid.IsLegal(peer, digit)) {
@@ -97,14 +109,14 @@ void Do(Grid& grid, const UndoEntry& entry) {
         TakeMarks(grid, entry.cell, MarksOf(entry));
         break;
     case EntryKind::Placement:
-        grid.Zet(DigitOf(entry), entry.cell);
+        Fill(grid, entry.cell, DigitOf(entry));
         break;
     case EntryKind::GiveBack:
         GiveMarks(grid, entry.cell, MarksOf(entry));
         break;
     case EntryKind::Reset:
         TakeDigitOff(grid, entry.cell, DigitOf(entry));
-        GiveMarks(grid, entry.cell, LegalMarks(grid, entry.cell));
+        GiveMarks(grid, entry.cell, kAllMarks);
         break;
     }
 }
@@ -122,7 +134,7 @@ void TakeBack(Grid& grid, const UndoEntry& entry) {
         TakeMarks(grid, entry.cell, MarksOf(entry));
         break;
     case EntryKind::Reset:
-        grid.Zet(DigitOf(entry), entry.cell);
+        Fill(grid, entry.cell, DigitOf(entry));
         break;
     }
 }

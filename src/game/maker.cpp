@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "game/dropped_text.h"
-#include "game/hints.h"
 #include "game/play_levels.h"
 #include "solver/brute_force.h"
 #include "solver/solver.h"
@@ -194,7 +193,7 @@ Validation Validate(Stage& stage, const Digits& clues) {
     const std::string saved = std::exchange(session.textHint, kValidating);
     Validation result;
     {
-        const BusyScan busy(stage);
+        const LongFunction busy(session);
         const auto yield = [&] {
             stage.view.Yield();
             return !session.isStopRequested;

@@ -5,7 +5,6 @@
 #include <cassert>
 
 #include "game/autosolve.h"
-#include "game/entry.h"
 #include "game/game.h"
 #include "game/play_levels.h"
 #include "model/levels.h"
@@ -161,7 +160,7 @@ bool IsOffWhileMaking(CommandId id) {
 bool IsAvailable(CommandId id, const Stage& stage) {
     const Session& session = stage.session;
     const bool hasLevel = session.level != 0 || session.pendingLevel != 0;
-    const bool canChange = IsBoardOn(stage);
+    const bool canChange = session.IsBoardOn();
     if (session.IsMaking() && IsOffWhileMaking(id)) {
         return false;
     }
@@ -176,9 +175,9 @@ bool IsAvailable(CommandId id, const Stage& stage) {
     case SolveRestart:
         return canChange || session.phase == PlayPhase::SolutionShown;
     case SolveUndo:
-        return canChange && session.history.CanUndo() && !IsBrushOrLinkMode(stage);
+        return canChange && session.history.CanUndo() && !session.IsBrushOrLinkMode();
     case SolveRedo:
-        return canChange && session.history.CanRedo() && !IsBrushOrLinkMode(stage);
+        return canChange && session.history.CanRedo() && !session.IsBrushOrLinkMode();
     case SolveResetCell:
         return canChange && session.selectedCell != kNoCell &&
                !session.grid.IsGiven(session.selectedCell);

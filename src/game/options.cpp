@@ -124,7 +124,7 @@ void SchrijfOptieSudLog(SettingsStore& store) {
 
 int HaalLaatsteLevel(SettingsStore& store) {
     const long level = ReadNumber(store, kSudoku, "Level", 0);
-    return level >= 1 && level <= kLevels ? static_cast<int>(level) : 0;
+    return IsLevel(level) ? static_cast<int>(level) : 0;
 }
 
 void SaveLastLevel(SettingsStore& store, int level) {

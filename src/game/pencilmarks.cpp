@@ -38,16 +38,4 @@ bool CanDiscardMarks(const Stage& stage) {
     return AreMarksUsable(stage) && !IsSimpleMode(stage);
 }
 
-void TogglePencilmarksMode(Stage& stage) {
-    FlipOption(stage, &Options::pencilmarks);
-}
-
-void TogglePencilmarksOff(Stage& stage) {
-    FlipOption(stage, &Options::pencilmarksOff);
-}
-
-void TogglePencilmarksDimmed(Stage& stage) {
-    FlipOption(stage, &Options::dimmed);
-}
-
 }  // namespace vemo

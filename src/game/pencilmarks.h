@@ -1,4 +1,4 @@
-// Which pencil marks are drawn, and the display modes. A mode never changes a candidate.
+// Which pencil marks are drawn in which display mode. A mode never changes a candidate.
 #pragma once
 
 #include "game/stage.h"
@@ -12,10 +12,5 @@ Marks ShownMarks(const Stage& stage, int cell);
 // May a mark be clicked at all, and may it be discarded by hand?
 bool AreMarksUsable(const Stage& stage);
 bool CanDiscardMarks(const Stage& stage);
-
-// The modes of the Options menu; each is kept in the settings store at once.
-void TogglePencilmarksMode(Stage& stage);
-void TogglePencilmarksOff(Stage& stage);
-void TogglePencilmarksDimmed(Stage& stage);
 
 }  // namespace vemo

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "game/hints.h"
 #include "game/play_times.h"
+#include "game/timer.h"
 #include "model/levels.h"
 
 namespace vemo {
@@ -34,20 +34,10 @@ void ClearPlay(Session& session) {
     session.history.Clear();
     session.brushes.Clear();
     session.links.Clear();
-    session.hintColors.WisKleuren();
-    session.hint.reset();
-    session.showMe.reset();
-    session.hintCaption.clear();
+    session.DropHint();
     session.isAutosolved = false;
     session.isStoppedByPlayer = false;
     session.pointedMark = kNoMark;
-}
-
-void StartClock(Stage& stage, int elapsed) {
-    stage.session.clock.Start(stage.clock.SecondOfDay(), elapsed);
-    if (!stage.options.timeOn) {
-        stage.session.clock.Reset();
-    }
 }
 
 Grid GridOf(const PuzzleRecord& puzzle, const PlayState& state) {
@@ -113,16 +103,17 @@ void AdoptPendingLevel(Stage& stage) {
 }
 
 void WriteStatistics(Stage& stage) {
+    TakeNewerTimes(stage);
     if (stage.files.WriteStatistics(stage.session.level, stage.session.statistics)) {
         TellWriteFailed(stage);
     }
 }
 
 void ChooseLevel(Stage& stage, int level) {
-    if (stage.session.IsMaking()) {
+    Session& session = stage.session;
+    if (session.IsMaking()) {
         return;
     }
-    Session& session = stage.session;
     session.pendingLevel = level;
     if (session.phase == PlayPhase::Finished || session.phase == PlayPhase::SolutionShown) {
         CloseSudoku(stage);
@@ -140,10 +131,10 @@ void ChooseLevel(Stage& stage, int level) {
 }
 
 void NextPuzzle(Stage& stage) {
-    if (stage.session.IsMaking()) {
+    const int level = TargetLevel(stage.session);
+    if (level == 0 || stage.session.IsMaking()) {
         return;
     }
-    const int level = TargetLevel(stage.session);
     const int count = stage.files.PuzzleCount(level);
     if (count == 0) {
         TellNoSudokus(stage, level);
@@ -168,10 +159,10 @@ void NextPuzzle(Stage& stage) {
 }
 
 void OpenByNumber(Stage& stage) {
-    if (stage.session.IsMaking()) {
+    const int level = TargetLevel(stage.session);
+    if (level == 0 || stage.session.IsMaking()) {
         return;
     }
-    const int level = TargetLevel(stage.session);
     const int count = stage.files.PuzzleCount(level);
     if (count == 0) {
         TellNoSudokus(stage, level);
@@ -297,6 +288,7 @@ void SaveCommand(Stage& stage) {
 bool SaveProgress(Stage& stage) {
     Session& session = stage.session;
     SaveLastLevel(stage.settings, session.level);
+    TakeNewerTimes(stage);
     LevelStatistics statistics = session.statistics;
     statistics.lastNumber = session.number;
     statistics.inProgress = true;
@@ -314,11 +306,8 @@ void ZetOpgelost(Stage& stage) {
     if (!session.IsPlaying() || session.grid.AllDigits() != session.puzzle.solution) {
         return;
     }
-    if (stage.options.timeOn) {
-        session.clock.Tick(stage.clock.SecondOfDay());
-    }
-    session.clock.Stop();
     session.phase = PlayPhase::Finished;
+    UpdateClock(stage);
     if (session.isScanBusy) {
         return;
     }

@@ -14,7 +14,8 @@ void AdoptPendingLevel(Stage& stage);
 // Of the current level; a failure is told.
 void WriteStatistics(Stage& stage);
 
-// These three do nothing while a puzzle is made: its clues would be lost.
+// These three do nothing while a puzzle is made: its clues would be lost. The two that open do
+// nothing before a level is chosen.
 void ChooseLevel(Stage& stage, int level);
 void NextPuzzle(Stage& stage);
 void OpenByNumber(Stage& stage);

@@ -12,27 +12,37 @@ bool IsBetter(int seconds, PlayTime best) {
     return best.IsNone() || seconds < best.InSeconds();
 }
 
-// Writes the puzzle record back with its new best time.
+// Writes the puzzle record back with its new best time. A file that has gone is not begun anew with
+// it: the next start would not bring the shipped one back.
 void BewaarBestTime(Stage& stage) {
     const Session& session = stage.session;
-    if (stage.files.WritePuzzle(session.level, session.number, session.puzzle)) {
+    if (!stage.files.ReadPuzzle(session.level, session.number) ||
+        stage.files.WritePuzzle(session.level, session.number, session.puzzle)) {
         TellWriteFailed(stage);
     }
 }
 
-// Changes the times of a level in its file and in memory alike; which puzzle was opened last and
-// whether it is offered stays as each of the two has it.
-void ForgetTimes(LevelStatistics& statistics, const LevelStatistics& changed) {
-    statistics.best = changed.best;
-    statistics.solvedCount = changed.solvedCount;
-    statistics.totalMinutes = changed.totalMinutes;
-    statistics.totalSeconds = changed.totalSeconds;
-    statistics.average = changed.average;
+// The times alone: which puzzle was opened last and whether it is offered may differ between the
+// file and the memory, and stays.
+void CopyTimes(const LevelStatistics& from, LevelStatistics& to) {
+    to.best = from.best;
+    to.solvedCount = from.solvedCount;
+    to.totalMinutes = from.totalMinutes;
+    to.totalSeconds = from.totalSeconds;
+    to.average = from.average;
 }
 
 }  // namespace
 
+void TakeNewerTimes(Stage& stage) {
+    const LevelStatistics kept = stage.files.ReadStatistics(stage.session.level);
+    if (kept.solvedCount > stage.session.statistics.solvedCount) {
+        CopyTimes(kept, stage.session.statistics);
+    }
+}
+
 void CountCompletion(Stage& stage, int seconds) {
+    TakeNewerTimes(stage);
     Session& session = stage.session;
     LevelStatistics& level = session.statistics;
     const PlayTime time = TimeOfSeconds(seconds);
@@ -73,7 +83,7 @@ void EraseSudokuTime(Stage& stage) {
         return;
     }
     session.puzzle.best = PlayTime();
-    ForgetTimes(session.statistics, statistics);
+    CopyTimes(statistics, session.statistics);
 }
 
 void EraseLevelTime(Stage& stage) {
@@ -86,7 +96,7 @@ void EraseLevelTime(Stage& stage) {
         return;
     }
     session.puzzle.best = PlayTime();
-    ForgetTimes(session.statistics, statistics);
+    CopyTimes(statistics, session.statistics);
 }
 
 void EraseAllTime(Stage& stage) {
@@ -95,7 +105,7 @@ void EraseAllTime(Stage& stage) {
     for (int level = 1; level <= kLevels; ++level) {
         LevelStatistics& statistics = all[static_cast<std::size_t>(level - 1)];
         statistics = stage.files.ReadStatistics(level);
-        ForgetTimes(statistics, LevelStatistics());
+        CopyTimes(LevelStatistics(), statistics);
         hasFailed |= stage.files.EraseBestTimes(level).has_value();
     }
     hasFailed |= stage.files.WriteAllStatistics(all).has_value();
@@ -104,7 +114,7 @@ void EraseAllTime(Stage& stage) {
         return;
     }
     stage.session.puzzle.best = PlayTime();
-    ForgetTimes(stage.session.statistics, LevelStatistics());
+    CopyTimes(LevelStatistics(), stage.session.statistics);
 }
 
 std::array<std::string, kStatusPanels> StatusPanels(const Session& session) {

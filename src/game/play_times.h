@@ -8,6 +8,10 @@
 
 namespace vemo {
 
+// Where a second window of the game has counted completions of the level meanwhile, its times are
+// taken over, so that the next write of the statistics does not undo them.
+void TakeNewerTimes(Stage& stage);
+
 // Counts a completion of the current puzzle, in whole seconds, for puzzle and level; a new best
 // time is told and the puzzle's record written.
 void CountCompletion(Stage& stage, int seconds);

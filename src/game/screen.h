@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,8 +21,8 @@ inline constexpr int kNoCell = -1;
 // beside its colour.
 enum class Role : std::uint8_t {
     None,
-    Pattern,   // filled round: the pattern, or one colour
-    Second,    // outlined square: the other colour
+    Pattern,   // filled round: the pattern, or its one colour
+    Second,    // outlined square: its other colour
     Attacked,  // struck through: goes
     Placed,    // filled round with a ring: comes
 };
@@ -65,10 +66,20 @@ struct CommandView {
     bool isChecked = false;
 };
 
-// One line of the legend that explains the shapes on the board: "goes".
+struct LinkLook {
+    bool isStrong = false;
+    bool isDirected = false;
+
+    bool operator==(const LinkLook&) const = default;
+};
+
+// One entry of the legend that explains what is drawn on the board, a role's or a link's: "goes".
 struct LegendEntry {
     Role role = Role::None;
     std::string text;
+    std::optional<LinkLook> link = {};
+
+    bool operator==(const LegendEntry&) const = default;
 };
 
 inline constexpr std::size_t kStatusPanels = 5;

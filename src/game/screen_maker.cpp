@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "game/entry.h"
 #include "game/menus.h"
 #include "game/pencilmarks.h"
 #include "game/play_times.h"
@@ -97,7 +96,7 @@ void PutPuzzle(const Stage& stage, Screen& screen) {
     session.hintColors.PaintOn(screen);
     screen.hintCaption = session.hintCaption;
     screen.textHint = session.textHint;
-    screen.canApply = session.hint && session.IsPlaying() && !session.IsBusy();
+    screen.canApply = session.hint && session.IsBoardOn() && !session.IsBusy();
 }
 
 void PutClock(const Stage& stage, Screen& screen) {
@@ -118,7 +117,7 @@ void PutBrushes(const Session& session, Screen& screen) {
 Screen MakeFrame(const Stage& stage) {
     const Session& session = stage.session;
     Screen screen;
-    screen.isBoardEnabled = (IsBoardOn(stage) || session.IsMaking()) && !session.IsBusy();
+    screen.isBoardEnabled = (session.IsBoardOn() || session.IsMaking()) && !session.IsBusy();
     screen.isMaking = session.IsMaking();
     screen.sudTekst = session.sudTekst;
     PutBrushes(session, screen);
@@ -135,7 +134,7 @@ Screen MakeFrame(const Stage& stage) {
 }  // namespace
 
 Screen MakeScreen(const Stage& stage) {
-    if (!IsCovered(stage.session)) {
+    if (!stage.session.IsCovered()) {
         return MakeUncoveredScreen(stage);
     }
     Screen screen = MakeFrame(stage);
@@ -149,10 +148,4 @@ Screen MakeUncoveredScreen(const Stage& stage) {
     PutPuzzle(stage, screen);
     return screen;
 }
-
-// Stopping the clock must not buy time to think.
-bool IsCovered(const Session& session) {
-    return session.IsPlaying() && session.isStoppedByPlayer;
-}
-
 }  // namespace vemo

@@ -9,8 +9,4 @@ namespace vemo {
 Screen MakeScreen(const Stage& stage);
 // As it is without the cover of a stopped clock: for copies that outlast the stop.
 Screen MakeUncoveredScreen(const Stage& stage);
-
-// The clock is stopped by the player: nothing of the puzzle is to be seen.
-bool IsCovered(const Session& session);
-
 }  // namespace vemo

@@ -57,7 +57,7 @@ struct Session {
     std::string textHint;
     std::optional<CellDigit> showMe;  // the pending target of Show Me
 
-    // The two busy flags: a hint scan or Autosolve, and a scan over several puzzles.
+    // The two busy flags: a hint, Autosolve or a validation, and a scan over several puzzles.
     bool isFunctionBusy = false;
     bool isScanBusy = false;
 
@@ -67,6 +67,38 @@ struct Session {
     bool IsPlaying() const { return phase == PlayPhase::Playing; }
     bool IsMaking() const { return phase == PlayPhase::Making; }
     bool IsFull() const { return !grid.EmptyCells().Any(); }
+
+    // A puzzle is being played and can be seen. What acts on the puzzle does nothing otherwise.
+    bool IsBoardOn() const { return IsPlaying() && !isStoppedByPlayer; }
+    // The clock is stopped by the player: nothing of the puzzle is to be seen, so that stopping it
+    // buys no time to think.
+    bool IsCovered() const { return IsPlaying() && isStoppedByPlayer; }
+    // Undo, Redo and Autosolve are off meanwhile.
+    bool IsBrushOrLinkMode() const { return brushes.IsArmed() || links.IsOn(); }
+
+    // Any change of the grid: hint colours, the hint on display and a pending Show Me go.
+    void DropHint() {
+        hintColors.WisKleuren();
+        hint.reset();
+        hintCaption.clear();
+        showMe.reset();
+    }
+};
+
+// A long function runs while one lives: the board and the commands are off, Stop and the clock stay
+// alive.
+class LongFunction {
+  public:
+    explicit LongFunction(Session& session) : session_(session) {
+        session_.isFunctionBusy = true;
+        session_.isStopRequested = false;
+    }
+    ~LongFunction() { session_.isFunctionBusy = false; }
+    LongFunction(const LongFunction&) = delete;
+    LongFunction& operator=(const LongFunction&) = delete;
+
+  private:
+    Session& session_;
 };
 
 }  // namespace vemo

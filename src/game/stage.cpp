@@ -6,17 +6,6 @@
 #include "model/levels.h"
 
 namespace vemo {
-namespace {
-
-std::string Trimmed(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(" \t");
-    return first == std::string::npos
-               ? std::string()
-               : text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
-}  // namespace
-
 Stage::Stage(const Platform& system, View& frontEnd)
     : settings(system.settings),
       folders(system.folders),
@@ -31,12 +20,6 @@ Stage::Stage(const Platform& system, View& frontEnd)
 void Speel(Stage& stage, Sound sound) {
     if (stage.options.sounds) {
         stage.sounds.Play(static_cast<int>(sound));
-    }
-}
-
-void Penalty(Stage& stage, int seconds) {
-    if (stage.options.timeOn) {
-        stage.session.clock.Penalty(seconds, stage.clock.SecondOfDay());
     }
 }
 
@@ -66,6 +49,12 @@ void Tell(Stage& stage, const std::string& title, const std::string& text, BoxIc
     stage.view.ShowBox({title, text, BoxButtons::Ok, icon});
 }
 
+std::string Trimmed(const std::string& text, const char* lost) {
+    const std::size_t first = text.find_first_not_of(lost);
+    return first == std::string::npos ? std::string()
+                                      : text.substr(first, text.find_last_not_of(lost) - first + 1);
+}
+
 bool AskYesNo(Stage& stage, const std::string& title, const std::string& text) {
     stage.show();
     return stage.view.ShowBox({title, text, BoxButtons::YesNo, BoxIcon::None}) == Answer::Yes;
@@ -73,7 +62,7 @@ bool AskYesNo(Stage& stage, const std::string& title, const std::string& text) {
 
 std::optional<int> AskNumber(Stage& stage, const Question& question, int least, int most) {
     stage.show();
-    const std::string text = Trimmed(stage.view.Ask(question).value_or(""));
+    const std::string text = Trimmed(stage.view.Ask(question).value_or(""), " \t");
     if (text.empty()) {
         return std::nullopt;
     }
@@ -89,7 +78,7 @@ void TellWriteFailed(Stage& stage) {
 }
 
 void TellFileError(Stage& stage, const FileError& error) {
-    Tell(stage, "File Error", error.path.string() + ": " + error.reason);
+    Tell(stage, "File Error", Utf8(error.path) + ": " + error.reason);
 }
 
 }  // namespace vemo

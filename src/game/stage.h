@@ -69,9 +69,6 @@ enum class Sound : std::uint8_t {
 // Plays nothing while the sounds are switched off.
 void Speel(Stage& stage, Sound sound);
 
-// Charges the clock; nothing while the timer is switched off.
-void Penalty(Stage& stage, int seconds);
-
 // Switches an option over and keeps it in the settings store at once.
 void FlipOption(Stage& stage, bool Options::*option);
 
@@ -91,6 +88,9 @@ bool AskYesNo(Stage& stage, const std::string& title, const std::string& text);
 // A box that asks for a whole number from `least`, which is positive, to `most`. 0 for any other
 // answer; nothing where the player cancels or leaves the line empty.
 std::optional<int> AskNumber(Stage& stage, const Question& question, int least, int most);
+
+// An answer without the characters of `lost` at its ends.
+std::string Trimmed(const std::string& text, const char* lost);
 
 // A file of the game could not be written.
 void TellWriteFailed(Stage& stage);

@@ -45,12 +45,12 @@ bool MaakSudLog(Stage& stage) {
         const int count = stage.files.PuzzleCount(level);
         if (count == 0) {
             Tell(stage, "Logfile creation failure",
-                 "Could not open source file " + stage.files.PuzzlePath(level).string());
+                 "Could not open source file " + Utf8(stage.files.PuzzlePath(level)));
             return false;
         }
         if (stage.files.CreateProgressFile(level, count)) {
             Tell(stage, "Log creation failure",
-                 "Error while processing file " + stage.files.ProgressPath(level).string());
+                 "Error while processing file " + Utf8(stage.files.ProgressPath(level)));
             return false;
         }
     }

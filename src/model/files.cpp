@@ -31,6 +31,8 @@ std::array<std::uint8_t, kSize> ReadRecord(Files& files, const std::filesystem::
 template <std::size_t kSize>
 std::optional<FileError> WriteRecord(Files& files, const std::filesystem::path& path, int number,
                                      const std::array<std::uint8_t, kSize>& record) {
+    // The folder may have gone since the start; what is wrong with it the write tells.
+    files.MakeFolder(path.parent_path());
     return files.WriteAt(path, OffsetOf(number, kSize), record);
 }
 
@@ -113,8 +115,17 @@ std::optional<FileError> RecordFiles::WritePlayState(int level, int number,
 
 std::optional<FileError> RecordFiles::CreateProgressFile(int level, int count) {
     // The empty play state is all zero.
-    return files_.Replace(ProgressPath(level),
-                          Bytes(static_cast<std::size_t>(count) * kPlayStateRecordSize));
+    Bytes content(static_cast<std::size_t>(count) * kPlayStateRecordSize);
+    const bool hasStates = files_.Size(ProgressPath(level)).has_value();
+    for (int number = 1; hasStates && number <= count; ++number) {
+        const PlayState state = ReadPlayState(level, number);
+        const std::optional<PuzzleRecord> puzzle = ReadPuzzle(level, number);
+        if (puzzle && BelongsTo(state, *puzzle)) {
+            std::ranges::copy(Pack(state), content.begin() + static_cast<std::ptrdiff_t>(OffsetOf(
+                                                                 number, kPlayStateRecordSize)));
+        }
+    }
+    return files_.Replace(ProgressPath(level), content);
 }
 
 RecordFiles::SavedPuzzle RecordFiles::SaveSudoku(int level, const PuzzleRecord& record) {

@@ -45,7 +45,9 @@ class RecordFiles {
     PlayState ReadPlayState(int level, int number);
     std::optional<FileError> WritePlayState(int level, int number, const PlayState& state);
 
-    // A new progress file for the level: `count` empty play states.
+    // A new progress file for the level: `count` empty play states. A player whose settings are
+    // lost does not lose the sudokus in progress with them: the states that belong to their puzzles
+    // stay.
     std::optional<FileError> CreateProgressFile(int level, int count);
 
     // A new puzzle after the last one, its empty play state under the same number; `number` is

@@ -83,8 +83,8 @@ void Grid::GiveBack(int cell, int digit) {
 }
 
 void Grid::WisKnop(int cell) {
-    for (Marks marks = marks_[Index(cell)]; marks != 0; marks &= static_cast<Marks>(marks - 1)) {
-        candidates_[Index(FirstDigit(marks))].Remove(cell);
+    for (int digit : DigitsOf(marks_[Index(cell)])) {
+        candidates_[Index(digit)].Remove(cell);
     }
     marks_[Index(cell)] = 0;
 }

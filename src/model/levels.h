@@ -16,7 +16,7 @@ inline constexpr int kLastSimpleLevel = 3;
 inline constexpr std::array<std::string_view, kLevels> kLevelNames = {
     "Easy", "Medium", "Hard", "Crazy", "Insane", "Kamikaze", "Extreme", "Mayhem", "Outlaw"};
 
-constexpr bool IsLevel(int level) {
+constexpr bool IsLevel(long level) {
     return level >= 1 && level <= kLevels;
 }
 constexpr std::string_view LevelName(int level) {

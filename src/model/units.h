@@ -38,6 +38,31 @@ constexpr int FirstDigit(Marks marks) {
     return std::countr_zero(marks);
 }
 
+// The digits of a set in ascending order, for loops.
+class DigitsOf {
+  public:
+    constexpr explicit DigitsOf(Marks marks) : marks_(marks) {}
+
+    class Iterator {
+      public:
+        constexpr explicit Iterator(unsigned left) : left_(left) {}
+        constexpr int operator*() const { return std::countr_zero(left_); }
+        constexpr Iterator& operator++() {
+            left_ &= left_ - 1;
+            return *this;
+        }
+        constexpr bool operator==(const Iterator&) const = default;
+
+      private:
+        unsigned left_;
+    };
+    constexpr Iterator begin() const { return Iterator(marks_); }
+    constexpr Iterator end() const { return Iterator(0); }
+
+  private:
+    Marks marks_;
+};
+
 constexpr int CellRow(int cell) {
     return cell / 9;
 }
@@ -66,6 +91,10 @@ constexpr int BoxPosition(int cell) {
 
 enum class UnitKind : std::uint8_t { Row, Column, Box };
 
+constexpr UnitKind CrossingKind(UnitKind line) {
+    return line == UnitKind::Row ? UnitKind::Column : UnitKind::Row;
+}
+
 struct Unit {
     UnitKind kind;
     int index;                 // 0..8 among the units of its kind
@@ -76,6 +105,7 @@ struct Unit {
 inline constexpr int kUnitCount = 27;
 inline constexpr std::array<UnitKind, 3> kUnitKinds = {UnitKind::Row, UnitKind::Column,
                                                        UnitKind::Box};
+inline constexpr std::array<UnitKind, 2> kLineKinds = {UnitKind::Row, UnitKind::Column};
 
 // Where a kind's nine units stand in kUnits: rows, columns, boxes.
 constexpr int UnitNumber(UnitKind kind, int index) {

@@ -13,6 +13,12 @@ namespace vemo {
 
 using Bytes = std::vector<std::uint8_t>;
 
+// A path as a text for the player: UTF-8 on every system.
+inline std::string Utf8(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
 // What went wrong with a file, for a message to the player: "<path>: <reason>".
 struct FileError {
     std::filesystem::path path;

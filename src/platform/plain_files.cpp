@@ -69,8 +69,11 @@ std::optional<std::uint64_t> PlainFiles::Size(const fs::path& path) {
 std::optional<Bytes> PlainFiles::ReadAt(const fs::path& path, std::uint64_t offset,
                                         std::size_t length) {
     const std::optional<std::uint64_t> size = Size(path);
+    if (!size) {
+        return std::nullopt;
+    }
     std::ifstream file(path, std::ios::binary);
-    if (!size || !file) {
+    if (!file) {
         return std::nullopt;
     }
     Bytes bytes;
@@ -128,6 +131,9 @@ std::optional<FileError> PlainFiles::Replace(const fs::path& path,
                                              std::span<const std::uint8_t> bytes) {
     std::error_code error;
     const fs::path target = fs::is_symlink(path, error) ? fs::canonical(path, error) : path;
+    if (target.empty()) {
+        return FileError{path, "cannot be written: " + error.message()};
+    }
     if (fs::exists(target, error) && !fs::is_regular_file(target, error)) {
         return FileError{path, "is no regular file"};
     }

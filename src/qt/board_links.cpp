@@ -118,13 +118,31 @@ void DrawArrowHead(QPainter& painter, const Curve& curve, double size, const QCo
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
     painter.drawPolygon(corners.data(), static_cast<int>(corners.size()));
-    painter.setBrush(Qt::NoBrush);
 }
 
 QPainterPath PathOf(const Curve& curve) {
     QPainterPath path(curve.from);
     path.quadTo(curve.control, curve.to);
     return path;
+}
+
+// `cell` is the side of the cells that the curve runs through.
+void Draw(QPainter& painter, const Curve& curve, LinkLook look, double cell,
+          const BoardColors& colors) {
+    const QColor color = colors.Hint(look.isStrong ? HintColor::StrongLink : HintColor::WeakLink);
+    QPen pen(color, std::max(1.5, kLineShare * cell), Qt::SolidLine, Qt::FlatCap);
+    if (!look.isStrong) {
+        pen.setDashPattern({4, 2.5});
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(pen);
+    painter.drawPath(PathOf(curve));
+    if (look.isDirected) {
+        DrawArrowHead(painter, curve, kArrowShare * cell, color);
+    }
+    painter.restore();
 }
 
 Curve CurveOf(const LinkView& link, const BoardGeometry& board, const Screen& screen) {
@@ -139,28 +157,15 @@ QPainterPath LinkPath(const LinkView& link, const BoardGeometry& board, const Sc
 
 void DrawLinks(QPainter& painter, const BoardGeometry& board, const Screen& screen,
                const BoardColors& colors) {
-    if (screen.links.empty()) {
-        return;
-    }
-    const double width = std::max(1.5, kLineShare * board.cell);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(Qt::NoBrush);
     for (const LinkView& link : screen.links) {
-        const QColor color =
-            colors.Hint(link.isStrong ? HintColor::StrongLink : HintColor::WeakLink);
-        const Curve curve = CurveOf(link, board, screen);
-        QPen pen(color, width, Qt::SolidLine, Qt::FlatCap);
-        if (!link.isStrong) {
-            pen.setDashPattern({4, 2.5});
-        }
-        painter.setPen(pen);
-        painter.drawPath(PathOf(curve));
-        if (link.isDirected) {
-            DrawArrowHead(painter, curve, kArrowShare * board.cell, color);
-        }
+        const LinkLook look{link.isStrong, link.isDirected};
+        Draw(painter, CurveOf(link, board, screen), look, board.cell, colors);
     }
-    painter.restore();
+}
+
+void DrawLinkSample(QPainter& painter, const QPointF& from, const QPointF& to, LinkLook look,
+                    double cell, const BoardColors& colors) {
+    Draw(painter, Bent(from, to, 0), look, cell, colors);
 }
 
 }  // namespace vemo

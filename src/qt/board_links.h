@@ -19,4 +19,8 @@ QPainterPath LinkPath(const LinkView& link, const BoardGeometry& board, const Sc
 void DrawLinks(QPainter& painter, const BoardGeometry& board, const Screen& screen,
                const BoardColors& colors);
 
+// A straight one, as it looks on a board with cells of this side.
+void DrawLinkSample(QPainter& painter, const QPointF& from, const QPointF& to, LinkLook look,
+                    double cell, const BoardColors& colors);
+
 }  // namespace vemo

@@ -42,11 +42,10 @@ Measures MeasuresFor(const ColumnTexts& texts, int height, bool isHalf) {
             .small = lines(isTight ? 1.6 : kSmallButton)};
 }
 
-// `count` equal boxes in rows of `across`, from the top of `room`; answers where they end.
+// Equal boxes in rows of `columns`, from the top of `room`; answers where they end.
 template <std::size_t kCount>
-int PlaceRows(std::array<QRect, kCount>& boxes, const QRect& room, int across, int height,
+int PlaceRows(std::array<QRect, kCount>& boxes, const QRect& room, int columns, int height,
               int gap) {
-    const int columns = across;
     for (std::size_t index = 0; index < kCount; ++index) {
         const int row = static_cast<int>(index) / columns;
         const int column = static_cast<int>(index) % columns;

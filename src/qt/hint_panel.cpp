@@ -20,6 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kTightHeight = 13;  // in lines, below which everything moves together
+constexpr int kLeastLines = 4;    // of the text, for which other parts give way
 
 ReadingBox* MakeTextBox(Game& game, QWidget* parent) {
     auto* text = new ReadingBox(parent);
@@ -93,19 +94,30 @@ void HintPanel::mouseDoubleClickEvent(QMouseEvent* event) {
     }
 }
 
-// The text is as high as it needs to be; where there is no room for it, it scrolls.
+// The text is as high as it needs to be; where there is no room for it, it scrolls. Where that
+// would leave too little of it to read, the legend goes, which the hint window has, too, and then
+// the title, with which the text begins.
 void HintPanel::Arrange() {
     const int line = fontMetrics().height();
     const bool isTight = height() < kTightHeight * line;
     const int pad = isTight ? line / 2 : line * 3 / 4;
     const int gap = isTight ? line / 3 : line / 2;
     const QRect room = rect().adjusted(pad, pad, -pad, -pad);
-    const bool hasCaption = !caption_->text().isEmpty();
-    const int captionHeight = hasCaption ? caption_->heightForWidth(room.width()) + gap : 0;
-    const int legendHeight = legend_->heightForWidth(room.width());
     const int applyHeight = apply_->isEnabled() ? line * (isTight ? 7 : 8) / 4 : 0;
-    const int below =
-        (legendHeight > 0 ? legendHeight + gap : 0) + (applyHeight > 0 ? applyHeight + gap : 0);
+    int captionHeight = caption_->text().isEmpty() ? 0 : caption_->heightForWidth(room.width());
+    int legendHeight = legend_->heightForWidth(room.width());
+    const auto withGap = [gap](int height) { return height > 0 ? height + gap : 0; };
+    const auto left = [&] {
+        return room.height() - withGap(captionHeight) - withGap(legendHeight) -
+               withGap(applyHeight);
+    };
+    const int least = std::min(text_->HeightFor(room.width()), text_->HeightOfLines(kLeastLines));
+    for (int* part : {&legendHeight, &captionHeight}) {
+        if (left() < least) {
+            *part = 0;
+        }
+    }
+    const int textRoom = left();
     int top = room.top();
     const auto place = [&room, &top](QWidget* part, int width, int height, int after) {
         part->setVisible(height > 0);
@@ -115,8 +127,8 @@ void HintPanel::Arrange() {
         part->setGeometry(room.left(), top, width, height);
         top += height + after;
     };
-    place(caption_, room.width(), captionHeight - gap, gap);
-    text_->PlaceIn({room.left(), top, room.width(), room.bottom() + 1 - below - top});
+    place(caption_, room.width(), captionHeight, gap);
+    text_->PlaceIn({room.left(), top, room.width(), textRoom});
     top = text_->geometry().bottom() + 1 + gap;
     place(legend_, room.width(), legendHeight, gap);
     place(apply_, std::min(room.width(), apply_->sizeHint().width() + 2 * line), applyHeight, 0);

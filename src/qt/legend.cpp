@@ -1,10 +1,11 @@
-// The line that explains the shapes of the hint on display.
+// The line that explains the shapes and links of the hint on display.
 #include "qt/legend.h"
 
 #include <QFontMetrics>
 #include <QPainter>
 #include <QStringList>
 
+#include "qt/board_links.h"
 #include "qt/role_shapes.h"
 #include "qt/screen_text.h"
 
@@ -16,16 +17,24 @@ namespace {
 
 // What stands struck through in the legend.
 constexpr int kSampleDigit = 3;
+// The side of the cell in which a shape of the legend's radius would stand.
+constexpr double kRadiiToCell = 6.5;
 
 int SampleDigitOf(Role role) {
     return role == Role::Attacked ? kSampleDigit : 0;
 }
 
-bool AreAlike(const std::vector<LegendEntry>& a, const std::vector<LegendEntry>& b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](const LegendEntry& x, const LegendEntry& y) {
-                          return x.role == y.role && x.text == y.text;
-                      });
+// What the words cannot say in so little room; empty without links.
+QString MeaningOf(const std::vector<LegendEntry>& entries) {
+    QStringList meanings;
+    for (const LegendEntry& entry : entries) {
+        if (entry.link) {
+            meanings << (entry.link->isStrong
+                             ? u"Strong link: at least one of the two candidates is true"_s
+                             : u"Weak link: at most one of the two candidates is true"_s);
+        }
+    }
+    return meanings.join(u'\n');
 }
 
 }  // namespace
@@ -35,7 +44,7 @@ Legend::Legend(QWidget* parent) : QWidget(parent) {
 }
 
 bool Legend::ShowEntries(const std::vector<LegendEntry>& entries, const BoardColors& colors) {
-    if (AreAlike(entries, entries_) && colors == colors_) {
+    if (entries == entries_ && colors == colors_) {
         return false;
     }
     entries_ = entries;
@@ -45,6 +54,8 @@ bool Legend::ShowEntries(const std::vector<LegendEntry>& entries, const BoardCol
         words << ToQString(entry.text);
     }
     setAccessibleName(u"Legend: "_s + words.join(u", "_s));
+    setToolTip(MeaningOf(entries_));
+    setAccessibleDescription(toolTip());
     update();
     return true;
 }
@@ -80,15 +91,26 @@ void LegendPainter::Paint(QPainter& painter, const QRect& room, const BoardColor
     for (std::size_t index = 0; index < entries_.size(); ++index) {
         const LegendEntry& entry = entries_[index];
         const QPoint place = room.topLeft() + places[index];
-        const QPoint middle = place + QPoint(Radius() + Ring(), LineHeight() / 2);
-        DrawRole(painter, middle, Radius(), entry.role, SampleDigitOf(entry.role), font_, colors,
-                 colors.theme.panel);
+        PaintSample(painter, place, entry, colors);
         painter.setFont(font_);
         painter.setPen(colors.theme.softText);
-        const QRect words(place + QPoint(3 * Radius() + Ring(), 0),
+        const QRect words(place + QPoint(SampleWidth(entry) + Radius(), 0),
                           QSize(room.width(), LineHeight()));
         painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter, ToQString(entry.text));
     }
+}
+
+void LegendPainter::PaintSample(QPainter& painter, const QPoint& place, const LegendEntry& entry,
+                                const BoardColors& colors) const {
+    const QPoint half(0, LineHeight() / 2);
+    if (entry.link) {
+        const QPoint along(SampleWidth(entry), 0);
+        DrawLinkSample(painter, place + half, place + half + along, *entry.link,
+                       kRadiiToCell * Radius(), colors);
+        return;
+    }
+    DrawRole(painter, place + half + QPoint(Radius() + Ring(), 0), Radius(), entry.role,
+             SampleDigitOf(entry.role), font_, colors, colors.theme.panel);
 }
 
 std::vector<QPoint> LegendPainter::PlacesIn(int width) const {
@@ -106,7 +128,11 @@ std::vector<QPoint> LegendPainter::PlacesIn(int width) const {
 }
 
 int LegendPainter::EntryWidth(const LegendEntry& entry) const {
-    return 5 * Radius() + Ring() + metrics_.horizontalAdvance(ToQString(entry.text));
+    return SampleWidth(entry) + 3 * Radius() + metrics_.horizontalAdvance(ToQString(entry.text));
+}
+
+int LegendPainter::SampleWidth(const LegendEntry& entry) const {
+    return entry.link ? 4 * Radius() : 2 * Radius() + Ring();
 }
 
 }  // namespace vemo

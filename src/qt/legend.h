@@ -1,4 +1,4 @@
-// The line that explains the shapes of the hint on display.
+// The line that explains the shapes and links of the hint on display.
 #pragma once
 
 #include <vector>
@@ -30,7 +30,10 @@ class LegendPainter {
   private:
     // Top left of each entry.
     std::vector<QPoint> PlacesIn(int width) const;
+    void PaintSample(QPainter& painter, const QPoint& place, const LegendEntry& entry,
+                     const BoardColors& colors) const;
     int EntryWidth(const LegendEntry& entry) const;
+    int SampleWidth(const LegendEntry& entry) const;
     int LineHeight() const { return metrics_.height() * 4 / 3; }
     int Radius() const { return metrics_.height() / 2; }
     // That a shape may reach beyond its radius.

@@ -16,6 +16,8 @@ namespace {
 
 constexpr double kLineShare = 0.009;  // of a box's side, that its lines may take
 constexpr double kPlainBox = 160;     // the side at which the texts have the system's size
+constexpr double kCardShare = 0.8;    // of a box's side, that its card is wide
+constexpr double kCardPad = 6;        // that a card keeps around its text
 
 bool IsWithoutPuzzle(const Screen& screen) {
     return !screen.isBoardEnabled && !screen.isBoardCovered &&
@@ -75,13 +77,20 @@ void LevelCards::paintEvent(QPaintEvent*) {
 
 void LevelCards::resizeEvent(QResizeEvent*) {
     const double box = width() / 3.0;
-    QFont larger = parentWidget()->font();
-    larger.setPointSizeF(larger.pointSizeF() * std::clamp(box / kPlainBox, 0.9, 2.0));
-    setFont(larger);
+    const QFontMetrics metrics = parentWidget()->fontMetrics();
+    int widest = 1;
+    for (const QPushButton* card : cards_) {
+        widest = std::max(widest, metrics.horizontalAdvance(card->text()));
+    }
+    const double scale =
+        std::min(std::clamp(box / kPlainBox, 0.9, 2.0), (kCardShare * box - kCardPad) / widest);
+    QFont scaled = parentWidget()->font();
+    scaled.setPointSizeF(std::max(1.0, scaled.pointSizeF() * scale));
+    setFont(scaled);
     for (int level = 0; level < kLevels; ++level) {
         QPushButton& card = *cards_[static_cast<std::size_t>(level)];
         const QPointF middle((level % 3 + 0.5) * box, (level / 3 + 0.5) * box);
-        QRectF place(0, 0, 0.8 * box, std::max(0.22 * box, 1.8 * fontMetrics().height()));
+        QRectF place(0, 0, kCardShare * box, std::max(0.22 * box, 1.8 * fontMetrics().height()));
         place.moveCenter(middle);
         card.setGeometry(place.toRect());
     }

@@ -2,16 +2,35 @@
 #include "qt/reading_box.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QKeyEvent>
 #include <QTextDocument>
 #include <QTextLayout>
 
 namespace vemo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-// What the text box keeps around its lines.
-constexpr int kSlack = 4;
+// What the text box wants beyond its lines, or it scrolls.
+constexpr int kSlack = 1;
+
+// As the text box lays it out: its lines can be higher than the font's metrics say.
+double HeightOf(const QString& paragraph, const QFont& font, const QTextOption& option, int width) {
+    QTextLayout layout(paragraph, font);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    double height = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLeadingIncluded(true);
+        line.setLineWidth(width);
+        height += line.height();
+    }
+    layout.endLayout();
+    return height;
+}
 
 }  // namespace
 
@@ -36,27 +55,28 @@ void ReadingBox::ShowText(const QString& text) {
 int ReadingBox::HeightFor(int width) const {
     QTextOption option;
     option.setWrapMode(wordWrapMode());
-    int lines = 0;
+    double height = kSlack;
     for (const QString& paragraph : toPlainText().split(u'\n')) {
-        QTextLayout layout(paragraph, font());
-        layout.setTextOption(option);
-        layout.beginLayout();
-        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-            line.setLineWidth(width - 1);
-        }
-        layout.endLayout();
-        lines += std::max(1, layout.lineCount());
+        height += HeightOf(paragraph, font(), option, width - 1);
     }
-    return lines * fontMetrics().lineSpacing() + kSlack;
+    return static_cast<int>(std::ceil(height));
+}
+
+int ReadingBox::HeightOfLines(int count) const {
+    return static_cast<int>(std::ceil(count * LineHeight())) + kSlack;
 }
 
 void ReadingBox::PlaceIn(const QRect& room) {
-    const int line = fontMetrics().lineSpacing();
     const int wanted = HeightFor(room.width());
-    const int whole = std::max(1, (room.height() - kSlack) / line) * line + kSlack;
+    const int count = static_cast<int>((room.height() - kSlack) / LineHeight());
+    const int whole = HeightOfLines(std::max(1, count));
     // A bar that is there narrows the lines, so that it would go on being needed.
     setVerticalScrollBarPolicy(wanted <= whole ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     setGeometry(room.left(), room.top(), room.width(), std::min(wanted, whole));
+}
+
+double ReadingBox::LineHeight() const {
+    return HeightOf(u"x"_s, font(), QTextOption(), QWIDGETSIZE_MAX);
 }
 
 void ReadingBox::focusInEvent(QFocusEvent* event) {

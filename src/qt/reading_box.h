@@ -19,6 +19,8 @@ class ReadingBox final : public QPlainTextEdit {
 
     // The height that shows all of the text.
     int HeightFor(int width) const;
+    // The height that shows so many lines.
+    int HeightOfLines(int count) const;
     // Takes its place: in `room` from its top, as high as the text needs, and no higher than shows
     // whole lines; one line at least. Where that is too low for the text, it scrolls.
     void PlaceIn(const QRect& room);
@@ -30,6 +32,8 @@ class ReadingBox final : public QPlainTextEdit {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    double LineHeight() const;
+
     std::function<void()> open_;
 };
 

@@ -58,7 +58,7 @@ void WindowContent::changeEvent(QEvent* event) {
 void WindowContent::Arrange() {
     const int bar = status_->heightForWidth(width());
     status_->setGeometry(0, height() - bar, width(), bar);
-    const WindowPlan plan = PlanWindow(QSize(width(), height() - bar));
+    const WindowPlan plan = PlanWindow(QSize(width(), height() - bar), fontMetrics().height());
     board_->setGeometry(plan.board);
     cards_->setGeometry(board_->BoardRect().translated(plan.board.topLeft()));
     column_->SetScale(plan.textScale);

@@ -25,9 +25,20 @@ constexpr double kPlainHeight = 700;
 constexpr double kSmallestText = 0.86;
 constexpr double kLargestText = 1.5;
 
-double TextScale(QSize size) {
+// What a column needs of the texts' lines, beside the board or below it, where the system's font is
+// large: it makes them smaller, down to what the usual font has in the smallest window.
+constexpr QSizeF kLinesBeside(12, 30);
+constexpr QSizeF kLinesBelow(30, 20);
+constexpr double kSmallestLine = 13;
+
+double TextScale(QSize size, const WindowPlan& plan, int line) {
     const double share = std::min(size.height(), size.width()) / kPlainHeight;
-    return std::clamp(share, kSmallestText, kLargestText);
+    const bool isBelow = plan.column.top() > plan.board.bottom();
+    const QSizeF lines = (isBelow ? kLinesBelow : kLinesBeside) * line;
+    const double room =
+        std::min(plan.column.width() / lines.width(), plan.column.height() / lines.height());
+    return std::min(std::clamp(share, kSmallestText, kLargestText),
+                    std::max(room, kSmallestLine / line));
 }
 
 WindowPlan Beside(QSize size, int margin) {
@@ -58,12 +69,12 @@ WindowPlan Below(QSize size, int margin) {
 
 }  // namespace
 
-WindowPlan PlanWindow(QSize size) {
+WindowPlan PlanWindow(QSize size, int line) {
     const int margin = size.width() < kRoomyWidth ? kMargin : kWideMargin;
     const WindowPlan beside = Beside(size, margin);
     const WindowPlan below = Below(size, margin);
     WindowPlan plan = below.board.width() > beside.board.width() ? below : beside;
-    plan.textScale = TextScale(size);
+    plan.textScale = TextScale(size, plan, line);
     return plan;
 }
 

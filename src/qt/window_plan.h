@@ -12,8 +12,8 @@ struct WindowPlan {
     double textScale = 1;  // of the column's texts
 };
 
-// `size` is what menu bar and status bar leave. The column stands beside the board or below it,
-// wherever the board becomes larger.
-WindowPlan PlanWindow(QSize size);
+// `size` is what menu bar and status bar leave, `line` the height of a line in the system's font.
+// The column stands beside the board or below it, wherever the board becomes larger.
+WindowPlan PlanWindow(QSize size, int line);
 
 }  // namespace vemo

@@ -101,8 +101,7 @@ class Choices {
 void Complete(const Grid& grid, const Bare& bare, AlmostLocked& set) {
     set.cells = bare.cells;
     set.digits = bare.digits;
-    for (Marks left = bare.digits; left != 0; left &= static_cast<Marks>(left - 1)) {
-        const int digit = FirstDigit(left);
+    for (int digit : DigitsOf(bare.digits)) {
         const std::size_t at = static_cast<std::size_t>(digit - 1);
         set.places[at] = bare.cells & grid.Candidates(digit);
         set.kills[at] = CommonPeers(set.places[at]) - bare.cells;

@@ -129,15 +129,15 @@ void Search::ChooseCell() {
     }
     const int cell = CellAt(position_);
     untried_[At(cell)] = candidates_[At(cell)];
-    for (Marks marks = candidates_[At(cell)]; marks != 0; marks &= static_cast<Marks>(marks - 1)) {
-        places_[At(FirstDigit(marks))].Remove(cell);
+    for (int digit : DigitsOf(candidates_[At(cell)])) {
+        places_[At(digit)].Remove(cell);
     }
 }
 
 // The cell waits again.
 void Search::PutBack(int cell) {
-    for (Marks marks = candidates_[At(cell)]; marks != 0; marks &= static_cast<Marks>(marks - 1)) {
-        places_[At(FirstDigit(marks))].Add(cell);
+    for (int digit : DigitsOf(candidates_[At(cell)])) {
+        places_[At(digit)].Add(cell);
     }
 }
 
@@ -194,9 +194,8 @@ bool Search::IsDeadEnd() const {
             return true;
         }
     }
-    Marks others = candidates_[At(last.cell)] & static_cast<Marks>(~MarkOf(last.digit));
-    for (; others != 0; others &= static_cast<Marks>(others - 1)) {
-        if (!HasPlaceAround(last.cell, FirstDigit(others))) {
+    for (int other : DigitsOf(candidates_[At(last.cell)] & ~MarkOf(last.digit))) {
+        if (!HasPlaceAround(last.cell, other)) {
             return true;
         }
     }

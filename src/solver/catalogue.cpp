@@ -146,99 +146,121 @@ constexpr Step kRowsOutsideTheLadder[] = {
 };
 // clang-format on
 
-template <std::size_t kCount>
-using Titles = std::array<std::string_view, kCount>;
-
-constexpr Titles<1> kNakedSingleTitles = {"Naked single"};
-constexpr Titles<1> kHiddenSingleTitles = {"Hidden single"};
-constexpr Titles<1> kPointingPairTitles = {"Pointing Pair"};
-constexpr Titles<1> kBoxLineTitles = {"Box Line Reduction"};
-constexpr Titles<6> kSubsetTitles = {"Naked Pair",  "Naked Triple", "Naked Quad",
-                                     "Naked Quint", "Hidden Pair",  "Hidden Triple"};
-constexpr Titles<1> kXWingTitles = {"X-Wing"};
-constexpr Titles<1> kSwordfishTitles = {"Swordfish"};
-constexpr Titles<1> kMultiXWingTitles = {"Multi-value X-Wing"};
-constexpr Titles<1> kEmptyRectangleTitles = {"Empty Rectangle"};
-constexpr Titles<1> kXYWingTitles = {"XY-Wing"};
-constexpr Titles<1> kXYZWingTitles = {"XYZ-Wing"};
-constexpr Titles<1> kColorTrapTitles = {"Simple Colors (Color Trap)"};
-constexpr Titles<1> kJellyfishTitles = {"Jellyfish"};
-constexpr Titles<1> kWXYZWingTitles = {"WXYZ-Wing"};
-constexpr Titles<1> kFinnedXWingTitles = {"Finned X-Wing"};
-constexpr Titles<1> kPairExclusionTitles = {"Aligned Pair Exclusion"};
-constexpr Titles<1> kTripleExclusionTitles = {"Aligned Triple Exclusion"};
-constexpr Titles<1> kXYChainTitles = {"XY-Chain"};
-constexpr Titles<1> kDoubleImplicationTitles = {"Double Implication Chain"};
-constexpr Titles<1> kBifurcationTitles = {"Bifurcation"};
-constexpr Titles<1> kColorWrapTitles = {"Simple Colors (Color Wrap)"};
-constexpr Titles<1> kMultiColor1Titles = {"Multi Coloring Type 1"};
-constexpr Titles<1> kMultiColor2Titles = {"Multi Coloring Type 2"};
-constexpr Titles<1> kBivalueGraveTitles = {"Bivalue Universal Grave"};
-constexpr Titles<1> kTwoStringKiteTitles = {"Two-String Kite"};
-constexpr Titles<1> kSkyscraperTitles = {"Skyscraper"};
-constexpr Titles<1> kSueDeCoqTitles = {"Sue-De-Coq"};
-constexpr Titles<3> kNiceLoopTitles = {"Nice Loop - Strong Discontinuity",
-                                       "Nice Loop - Weak Discontinuity",
-                                       "Nice Loop - Alternating X-Cycle"};
-constexpr Titles<5> kUniqueRectangleTitles = {"Unique Rectangle Type 1", "Unique Rectangle Type 2",
-                                              "Unique Rectangle Type 3", "Unique Rectangle Type 4",
-                                              "Hidden Unique Rectangle"};
-constexpr Titles<1> kAvoidableRectangleTitles = {"Avoidable Rectangle"};
-constexpr Titles<3> kAlternatingChainTitles = {
-    "AIC - Strong Discontinuity", "AIC - Weak Discontinuity", "AIC - Alternating Cycle"};
-constexpr Titles<1> kBivalueAlsXzTitles = {"Bi-Value ALSxz"};
-constexpr Titles<1> kAlsXzTitles = {"ALSxz"};
-constexpr Titles<1> kMedusaTitles = {"3D Medusa"};
-constexpr Titles<1> kForcingFromCellTitles = {"Forcing Chain from Cell"};
-constexpr Titles<1> kForcingFromUnitTitles = {"Forcing Chain from Unit"};
-constexpr Titles<1> kMultiFishTitles = {"MultiFish"};
-
+// How a kind of hint is named, logged, explained and what its colours mean.
 struct KindRow {
     HintKind kind;
-    HintKindRow row;
+    Sequence<std::string_view, 6> titles;  // one, or one a variant from 1 on
+    TextWriter log;                        // null while no search makes this kind
+    TextWriter hint;
+    Sequence<ColorWords, 4> colors = {};  // as the titles; none for a pattern of one colour
 };
 
 // By number, from 1 on. No search makes kind 19: its title is reserved.
 constexpr KindRow kKindRows[] = {
-    {HintKind::NakedSingle, {kNakedSingleTitles, NakedSingleLog, NakedSingleHint}},
-    {HintKind::HiddenSingle, {kHiddenSingleTitles, HiddenSingleLog, HiddenSingleHint}},
-    {HintKind::PointingPair, {kPointingPairTitles, PointingPairLog, PointingPairHint}},
-    {HintKind::BoxLine, {kBoxLineTitles, BoxLineLog, BoxLineHint}},
-    {HintKind::Subset, {kSubsetTitles, SubsetLog, SubsetHint}},
-    {HintKind::XWing, {kXWingTitles, XWingLog, XWingHint}},
-    {HintKind::Swordfish, {kSwordfishTitles, SwordFishLog, SwordFishHint}},
-    {HintKind::MultiXWing, {kMultiXWingTitles, MultiXWingLog, MultiXWingHint}},
-    {HintKind::EmptyRectangle, {kEmptyRectangleTitles, EmptyRectangleLog, EmptyRectangleHint}},
-    {HintKind::XYWing, {kXYWingTitles, XYWingLog, XYWingHint}},
-    {HintKind::XYZWing, {kXYZWingTitles, XYZWingLog, XYZWingHint}},
-    {HintKind::ColorTrap, {kColorTrapTitles, ColorTrapLog, ColorTrapHint}},
-    {HintKind::Jellyfish, {kJellyfishTitles, JellyFishLog, JellyFishHint}},
-    {HintKind::WXYZWing, {kWXYZWingTitles, WXYZWingLog, WXYZWingHint}},
-    {HintKind::FinnedXWing, {kFinnedXWingTitles, FinnedXWingLog, FinnedXWingHint}},
-    {HintKind::PairExclusion, {kPairExclusionTitles, PairExclusionLog, PairExclusionHint}},
-    {HintKind::TripleExclusion, {kTripleExclusionTitles, TripleExclusionLog, TripleExclusionHint}},
-    {HintKind::XYChain, {kXYChainTitles, XYChainLog, XYChainHint}},
-    {HintKind::DoubleImplication, {kDoubleImplicationTitles, nullptr, nullptr}},
-    {HintKind::Bifurcation, {kBifurcationTitles, BifurcationLog, BifurcationHint}},
-    {HintKind::ColorWrap, {kColorWrapTitles, ColorWrapLog, ColorWrapHint}},
-    {HintKind::MultiColor1, {kMultiColor1Titles, MultiColor1Log, MultiColor1Hint}},
-    {HintKind::MultiColor2, {kMultiColor2Titles, MultiColor2Log, MultiColor2Hint}},
-    {HintKind::BivalueGrave, {kBivalueGraveTitles, BUGLog, BUGHint}},
-    {HintKind::TwoStringKite, {kTwoStringKiteTitles, TwoStringKiteLog, TwoStringKiteHint}},
-    {HintKind::Skyscraper, {kSkyscraperTitles, SkyscraperLog, SkyscraperHint}},
-    {HintKind::SueDeCoq, {kSueDeCoqTitles, SueDeCoqLog, SueDeCoqHint}},
-    {HintKind::NiceLoop, {kNiceLoopTitles, NiceLoopLog, NiceLoopHint}},
-    {HintKind::UniqueRectangle, {kUniqueRectangleTitles, UniqueRectangleLog, UniqueRectangleHint}},
+    {HintKind::NakedSingle, {"Naked single"}, NakedSingleLog, NakedSingleHint},
+    {HintKind::HiddenSingle, {"Hidden single"}, HiddenSingleLog, HiddenSingleHint},
+    {HintKind::PointingPair, {"Pointing Pair"}, PointingPairLog, PointingPairHint},
+    {HintKind::BoxLine, {"Box Line Reduction"}, BoxLineLog, BoxLineHint},
+    {HintKind::Subset,
+     {"Naked Pair", "Naked Triple", "Naked Quad", "Naked Quint", "Hidden Pair", "Hidden Triple"},
+     SubsetLog,
+     SubsetHint},
+    {HintKind::XWing, {"X-Wing"}, XWingLog, XWingHint},
+    {HintKind::Swordfish, {"Swordfish"}, SwordFishLog, SwordFishHint},
+    {HintKind::MultiXWing, {"Multi-value X-Wing"}, MultiXWingLog, MultiXWingHint},
+    {HintKind::EmptyRectangle, {"Empty Rectangle"}, EmptyRectangleLog, EmptyRectangleHint},
+    {HintKind::XYWing, {"XY-Wing"}, XYWingLog, XYWingHint},
+    {HintKind::XYZWing, {"XYZ-Wing"}, XYZWingLog, XYZWingHint},
+    {HintKind::ColorTrap,
+     {"Simple Colors (Color Trap)"},
+     ColorTrapLog,
+     ColorTrapHint,
+     {{"one color", "other color"}}},
+    {HintKind::Jellyfish, {"Jellyfish"}, JellyFishLog, JellyFishHint},
+    {HintKind::WXYZWing, {"WXYZ-Wing"}, WXYZWingLog, WXYZWingHint},
+    {HintKind::FinnedXWing,
+     {"Finned X-Wing"},
+     FinnedXWingLog,
+     FinnedXWingHint,
+     {{"X-Wing", "fin"}}},
+    {HintKind::PairExclusion,
+     {"Aligned Pair Exclusion"},
+     PairExclusionLog,
+     PairExclusionHint,
+     {{"aligned cells", "excluders"}}},
+    {HintKind::TripleExclusion,
+     {"Aligned Triple Exclusion"},
+     TripleExclusionLog,
+     TripleExclusionHint,
+     {{"aligned cells", "excluders"}}},
+    {HintKind::XYChain, {"XY-Chain"}, XYChainLog, XYChainHint},
+    {HintKind::DoubleImplication, {"Double Implication Chain"}, nullptr, nullptr},
+    {HintKind::Bifurcation, {"Bifurcation"}, BifurcationLog, BifurcationHint},
+    {HintKind::ColorWrap,
+     {"Simple Colors (Color Wrap)"},
+     ColorWrapLog,
+     ColorWrapHint,
+     {{"true color", "true color"}}},
+    {HintKind::MultiColor1,
+     {"Multi Coloring Type 1"},
+     MultiColor1Log,
+     MultiColor1Hint,
+     {{"at least one true", "not both true"}}},
+    {HintKind::MultiColor2,
+     {"Multi Coloring Type 2"},
+     MultiColor2Log,
+     MultiColor2Hint,
+     {{"one color", "other color"}}},
+    {HintKind::BivalueGrave, {"Bivalue Universal Grave"}, BUGLog, BUGHint},
+    {HintKind::TwoStringKite, {"Two-String Kite"}, TwoStringKiteLog, TwoStringKiteHint},
+    {HintKind::Skyscraper, {"Skyscraper"}, SkyscraperLog, SkyscraperHint},
+    {HintKind::SueDeCoq, {"Sue-De-Coq"}, SueDeCoqLog, SueDeCoqHint, {{"crossing", "its partners"}}},
+    {HintKind::NiceLoop,
+     {"Nice Loop - Strong Discontinuity", "Nice Loop - Weak Discontinuity",
+      "Nice Loop - Alternating X-Cycle"},
+     NiceLoopLog,
+     NiceLoopHint,
+     {{"on", "off"}, {"on", "off"}, {"one way", "other way"}}},
+    {HintKind::UniqueRectangle,
+     {"Unique Rectangle Type 1", "Unique Rectangle Type 2", "Unique Rectangle Type 3",
+      "Unique Rectangle Type 4", "Hidden Unique Rectangle"},
+     UniqueRectangleLog,
+     UniqueRectangleHint,
+     {{"rectangle", "extra"},
+      {"rectangle", "extra"},
+      {"rectangle", "extra or locked"},
+      {"rectangle", "extra"}}},
     {HintKind::AvoidableRectangle,
-     {kAvoidableRectangleTitles, AvoidableRectangleLog, AvoidableRectangleHint}},
+     {"Avoidable Rectangle"},
+     AvoidableRectangleLog,
+     AvoidableRectangleHint},
     {HintKind::AlternatingChain,
-     {kAlternatingChainTitles, AlternatingChainLog, AlternatingChainHint}},
-    {HintKind::BivalueAlsXz, {kBivalueAlsXzTitles, ALSxzLog, ALSxzHint}},
-    {HintKind::AlsXz, {kAlsXzTitles, ALSxzLog, ALSxzHint}},
-    {HintKind::Medusa, {kMedusaTitles, MedusaLog, MedusaHint}},
-    {HintKind::ForcingFromCell, {kForcingFromCellTitles, ForcingFromCellLog, ForcingFromCellHint}},
-    {HintKind::ForcingFromUnit, {kForcingFromUnitTitles, ForcingFromUnitLog, ForcingFromUnitHint}},
-    {HintKind::MultiFish, {kMultiFishTitles, MultiFishLog, MultiFishHint}},
+     {"AIC - Strong Discontinuity", "AIC - Weak Discontinuity", "AIC - Alternating Cycle"},
+     AlternatingChainLog,
+     AlternatingChainHint,
+     {{"on", "off"}, {"on", "off"}, {"one way", "other way"}}},
+    {HintKind::BivalueAlsXz,
+     {"Bi-Value ALSxz"},
+     ALSxzLog,
+     ALSxzHint,
+     {{"first set", "second set"}}},
+    {HintKind::AlsXz, {"ALSxz"}, ALSxzLog, ALSxzHint, {{"first set", "second set"}}},
+    {HintKind::Medusa, {"3D Medusa"}, MedusaLog, MedusaHint, {{"one color", "other color"}}},
+    {HintKind::ForcingFromCell,
+     {"Forcing Chain from Cell"},
+     ForcingFromCellLog,
+     ForcingFromCellHint,
+     {{"start", "result"}}},
+    {HintKind::ForcingFromUnit,
+     {"Forcing Chain from Unit"},
+     ForcingFromUnitLog,
+     ForcingFromUnitHint,
+     {{"start", "result"}}},
+    {HintKind::MultiFish,
+     {"MultiFish"},
+     MultiFishLog,
+     MultiFishHint,
+     {{"one per row", "one per column"}}},
 };
 
 constexpr bool KindsAreInOrder() {
@@ -248,9 +270,22 @@ constexpr bool KindsAreInOrder() {
             return false;
         }
     }
-    return number == static_cast<int>(HintKind::MultiFish);
+    return number == kHintKinds;
 }
 static_assert(KindsAreInOrder(), "a kind's row is found by its number");
+
+const KindRow& RowOf(HintKind kind) {
+    assert(kind != HintKind::None && "a find has a kind");
+    return kKindRows[static_cast<std::size_t>(kind) - 1];
+}
+
+// The item of a variant from 1 on; the last one for any other.
+template <typename Item, std::size_t kCapacity>
+const Item& OfVariant(const Sequence<Item, kCapacity>& items, int variant) {
+    const std::size_t number = static_cast<std::size_t>(variant);
+    const bool isListed = number >= 1 && number <= items.Size();
+    return items[isListed ? number - 1 : items.Size() - 1];
+}
 
 }  // namespace
 
@@ -266,20 +301,17 @@ std::span<const Step> StepsOutsideTheLadder() {
     return kRowsOutsideTheLadder;
 }
 
-const HintKindRow& RowOf(HintKind kind) {
-    assert(kind != HintKind::None && "a find has a kind");
-    return kKindRows[static_cast<std::size_t>(kind) - 1].row;
-}
-
 std::span<const std::string_view> HintTitles(HintKind kind) {
-    return RowOf(kind).titles;
+    return {RowOf(kind).titles.begin(), RowOf(kind).titles.Size()};
 }
 
 std::string_view HintTitle(const Find& find) {
-    const std::span<const std::string_view> titles = HintTitles(find.kind);
-    const std::size_t variant = static_cast<std::size_t>(find.variant);
-    const bool isListed = variant >= 1 && variant <= titles.size();
-    return titles[isListed ? variant - 1 : titles.size() - 1];
+    return OfVariant(RowOf(find.kind).titles, find.variant);
+}
+
+ColorWords ColorWordsOf(const Find& find) {
+    const Sequence<ColorWords, 4>& words = RowOf(find.kind).colors;
+    return words.Empty() ? ColorWords() : OfVariant(words, find.variant);
 }
 
 std::string LogLine(const Find& find) {

@@ -31,7 +31,7 @@ struct Slot {
 // One call of a search, in the order of the ladder.
 struct Step {
     int slot;
-    Search search;  // null: this search finds nothing
+    Search search;  // null where there is a trial
     Args args;
     int level;                         // the rating level that a find applies
     Sequence<HintKind, 2> kinds;       // what it can find
@@ -39,15 +39,13 @@ struct Step {
     std::string_view batchStatusText;  // the suffix while a batch check scans
     int penalty;                       // seconds charged for a hint
     Trial trial = nullptr;             // instead of a search
-
-    bool Finds() const { return search != nullptr || trial != nullptr; }
 };
 
-// How a kind of hint is named, logged and explained.
-struct HintKindRow {
-    std::span<const std::string_view> titles;  // one, or one a variant from 1 on
-    TextWriter log;                            // null while no search makes this kind
-    TextWriter hint;
+// What the legend calls the candidates of a pattern, those in its one colour and those in its
+// other.
+struct ColorWords {
+    std::string_view first = "pattern";
+    std::string_view second = {};
 };
 
 std::span<const Slot, kSlots> Slots();
@@ -56,12 +54,11 @@ std::span<const Step> Steps();
 // The searches that stand in no ladder.
 std::span<const Step> StepsOutsideTheLadder();
 
-const HintKindRow& RowOf(HintKind kind);
-
 // The title of the find's kind and variant, "Naked Pair". A variant outside 1..n takes the last.
 std::string_view HintTitle(const Find& find);
 // All titles of a kind.
 std::span<const std::string_view> HintTitles(HintKind kind);
+ColorWords ColorWordsOf(const Find& find);
 // The line of the solve log, without its line end.
 std::string LogLine(const Find& find);
 // The explanation, `SchrijfHint`'s text.

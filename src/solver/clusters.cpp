@@ -3,8 +3,6 @@
 
 #include <algorithm>
 
-#include "model/units.h"
-
 namespace vemo {
 namespace {
 
@@ -45,6 +43,11 @@ ConjugatePairs ConjugatePairsOf(const Grid& grid, int digit) {
         }
     }
     return pairs;
+}
+
+const Unit& UnitOfTwo(CellSet cells) {
+    return *std::ranges::find_if(kUnits,
+                                 [&](const Unit& unit) { return (unit.set & cells).Count() >= 2; });
 }
 
 std::vector<Cluster> ClustersOf(const Grid& grid, int digit) {

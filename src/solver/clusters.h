@@ -7,6 +7,7 @@
 #include "model/cellset.h"
 #include "model/grid.h"
 #include "model/sequence.h"
+#include "model/units.h"
 
 namespace vemo {
 
@@ -27,6 +28,9 @@ struct Cluster {
     // Two cells of the colour share a unit: it is not the one that holds the digit.
     bool Clashes(std::size_t of) const { return (color[of] & seen[of]).Any(); }
 };
+
+// The first unit that holds two of these cells; there is one.
+const Unit& UnitOfTwo(CellSet cells);
 
 // The connected parts of the graph whose edges are the conjugate pairs; in the order of their
 // lowest cells.

@@ -5,6 +5,30 @@
 
 namespace vemo {
 
+CellSet CellsOf(std::span<const std::uint8_t> cells) {
+    CellSet set;
+    for (int cell : cells) {
+        set.Add(cell);
+    }
+    return set;
+}
+
+CellSet CellsOf(std::span<const CellDigit> candidates) {
+    CellSet set;
+    for (const CellDigit& candidate : candidates) {
+        set.Add(candidate.cell);
+    }
+    return set;
+}
+
+Marks MarksOf(std::span<const CellDigit> candidates) {
+    Marks marks = 0;
+    for (const CellDigit& candidate : candidates) {
+        marks |= MarkOf(candidate.digit);
+    }
+    return marks;
+}
+
 Find Find::Placing(HintKind kind, int cell, int digit) {
     Find find;
     find.kind = kind;
@@ -21,10 +45,8 @@ void Find::AddCells(CellSet set) {
 }
 
 void Find::AddDigits(Marks marks) {
-    for (int digit = 1; digit <= kDigits; ++digit) {
-        if (HasMark(marks, digit)) {
-            AddDigit(digit);
-        }
+    for (int digit : DigitsOf(marks)) {
+        AddDigit(digit);
     }
 }
 
@@ -40,9 +62,8 @@ void Find::AddLink(CellDigit from, CellDigit to, Strength strength) {
 std::vector<CellDigit> Find::CandidatesOf(const Grid& grid, CellSet cells, Marks marks) {
     std::vector<CellDigit> candidates;
     for (int cell : cells) {
-        Marks held = grid.MarksAt(cell) & marks;
-        for (; held != 0; held &= static_cast<Marks>(held - 1)) {
-            candidates.push_back(At(cell, FirstDigit(held)));
+        for (int digit : DigitsOf(grid.MarksAt(cell) & marks)) {
+            candidates.push_back(At(cell, digit));
         }
     }
     return candidates;
@@ -50,15 +71,17 @@ std::vector<CellDigit> Find::CandidatesOf(const Grid& grid, CellSet cells, Marks
 
 bool Find::Remove(const Grid& grid, CellSet from, Marks marks) {
     for (int cell : from) {
-        Marks going = grid.MarksAt(cell) & marks;
-        for (; going != 0 && !removals.IsFull(); going &= static_cast<Marks>(going - 1)) {
-            removals.Add(At(cell, FirstDigit(going)));
+        for (int digit : DigitsOf(grid.MarksAt(cell) & marks)) {
+            if (removals.IsFull()) {
+                return true;
+            }
+            removals.Add(At(cell, digit));
         }
     }
     return !removals.Empty();
 }
 
-bool Find::Remove(const Grid& grid, const std::array<CellSet, kDigits>& from) {
+bool Find::Remove(const Grid& grid, const CellsByDigit& from) {
     CellSet losers;
     for (const CellSet& ofDigit : from) {
         losers |= ofDigit;

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "model/cellset.h"
@@ -54,6 +55,7 @@ enum class HintKind : std::uint8_t {
     ForcingFromUnit,
     MultiFish,
 };
+inline constexpr int kHintKinds = static_cast<int>(HintKind::MultiFish);
 
 struct CellDigit {
     std::uint8_t cell = 0;
@@ -65,6 +67,13 @@ struct CellDigit {
 constexpr CellDigit At(int cell, int digit) {
     return {static_cast<std::uint8_t>(cell), static_cast<std::uint8_t>(digit)};
 }
+
+// What a list of cells or of candidates comes to.
+CellSet CellsOf(std::span<const std::uint8_t> cells);
+CellSet CellsOf(std::span<const CellDigit> candidates);
+Marks MarksOf(std::span<const CellDigit> candidates);
+
+using CellsByDigit = std::array<CellSet, kDigits>;  // by digit - 1
 
 // One link of a chain, from a set of cells to another: a node of one cell is a single candidate.
 struct ChainLink {
@@ -105,6 +114,7 @@ struct Find {
     static Find Placing(HintKind kind, int cell, int digit);
 
     void AddUnit(int unit) { units.Add(static_cast<std::uint8_t>(unit)); }
+    void AddUnit(const Unit& unit) { AddUnit(UnitNumber(unit.kind, unit.index)); }
     void AddCell(int cell) { cells.Add(static_cast<std::uint8_t>(cell)); }
     void AddDigit(int digit) { digits.Add(static_cast<std::uint8_t>(digit)); }
     void AddCells(CellSet set);
@@ -119,8 +129,8 @@ struct Find {
     // Takes the candidates of `marks` that these cells hold as removals, as far as there is room.
     // Answers whether there is any removal now. Call it once a find: the order is by cell.
     bool Remove(const Grid& grid, CellSet from, Marks marks);
-    // The same, each digit from its own cells; by digit - 1.
-    bool Remove(const Grid& grid, const std::array<CellSet, kDigits>& from);
+    // The same, each digit from its own cells.
+    bool Remove(const Grid& grid, const CellsByDigit& from);
 
     bool ChangesSomething() const { return !placements.Empty() || !removals.Empty(); }
     bool HasSameEffects(const Find& other) const {

@@ -61,8 +61,7 @@ LinkGraph::LinkGraph(const Grid& grid) {
     single_.fill(kNone);
     lastInside_.fill(kNone);
     for (int cell : grid.EmptyCells()) {
-        for (Marks left = grid.MarksAt(cell); left != 0; left &= static_cast<Marks>(left - 1)) {
-            const int digit = FirstDigit(left);
+        for (int digit : DigitsOf(grid.MarksAt(cell))) {
             single_[static_cast<std::size_t>(cell * kDigits + digit - 1)] =
                 AddNode({CellSet::Of(cell), digit});
         }
@@ -104,8 +103,7 @@ LinkGraph LinkGraph::WithAlmostLocked(std::span<const AlmostLocked> sets) const 
         }
         SetNodes& nodes = graph.sets_.emplace_back();
         nodes.cells = set.cells;
-        for (Marks left = set.digits; left != 0; left &= static_cast<Marks>(left - 1)) {
-            const int digit = FirstDigit(left);
+        for (int digit : DigitsOf(set.digits)) {
             nodes.nodes[nodes.count++] = graph.FindOrAdd({set.Places(digit), digit});
         }
     }

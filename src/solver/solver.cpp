@@ -118,10 +118,10 @@ bool Solver::MayTry(const Step& step) {
 }
 
 void Solver::Search(const Step& step, FindSink& sink) {
-    if (step.search != nullptr) {
-        step.search(position_, step.args, sink);
-    } else if (step.trial != nullptr) {
+    if (step.trial != nullptr) {
         step.trial(*this, sink);
+    } else {
+        step.search(position_, step.args, sink);
     }
 }
 

@@ -24,8 +24,8 @@ std::string JoinDigits(std::span<const std::uint8_t> digits, std::string_view la
 
 std::string JoinDigits(Marks digits, std::string_view last) {
     std::vector<std::string> items;
-    for (; digits != 0; digits &= static_cast<Marks>(digits - 1)) {
-        items.push_back(std::to_string(FirstDigit(digits)));
+    for (int digit : DigitsOf(digits)) {
+        items.push_back(std::to_string(digit));
     }
     return Join(items, last);
 }
@@ -93,12 +93,8 @@ std::string SpacedCells(std::span<const std::uint8_t> cells) {
 }
 
 std::string SpacedCells(std::span<const CellDigit> effects) {
-    CellSet cells;
-    for (const CellDigit& effect : effects) {
-        cells.Add(effect.cell);
-    }
     std::string text;
-    for (int cell : cells) {
+    for (int cell : CellsOf(effects)) {
         text += " " + CellName(cell);
     }
     return text;

@@ -14,22 +14,9 @@ namespace {
 using Lines = std::vector<std::string>;
 
 constexpr std::size_t kRows = 9;
-constexpr std::string_view kEmptyCells = ".0*_-xX";
 constexpr std::string_view kSeparators = " \t|,;:+!";
 constexpr std::string_view kFieldSeparators = ",;\t";
 constexpr std::string_view kBorderCharacters = " \t|:+-=*.'`,";
-
-bool IsDigit(char character) {
-    return character >= '1' && character <= '9';
-}
-
-bool IsCell(char character) {
-    return IsDigit(character) || kEmptyCells.find(character) != kEmptyCells.npos;
-}
-
-std::uint8_t Value(char cell) {
-    return IsDigit(cell) ? static_cast<std::uint8_t>(cell - '0') : std::uint8_t{0};
-}
 
 // The plain character for one of the box-drawing characters U+2500 to U+257F; none for any other.
 std::optional<char> PlainBorder(std::string_view character) {
@@ -141,7 +128,7 @@ std::optional<Digits> ReadRows(const Lines& lines, RowReader read) {
         if (!cells) {
             return std::nullopt;
         }
-        next = std::ranges::transform(*cells, next, Value).out;
+        next = std::ranges::transform(*cells, next, DigitOf).out;
     }
     return digits;
 }
@@ -180,7 +167,8 @@ std::optional<std::vector<Marks>> GroupsOf(std::string_view line) {
     std::vector<Marks> groups;
     bool isInGroup = false;
     for (char character : line) {
-        if (!IsDigit(character)) {
+        const int digit = DigitOf(character);
+        if (digit == 0) {
             if (kSeparators.find(character) == kSeparators.npos) {
                 return std::nullopt;
             }
@@ -191,11 +179,10 @@ std::optional<std::vector<Marks>> GroupsOf(std::string_view line) {
             groups.push_back(0);
             isInGroup = true;
         }
-        const Marks mark = MarkOf(character - '0');
-        if ((groups.back() & mark) != 0) {
+        if (HasMark(groups.back(), digit)) {
             return std::nullopt;
         }
-        groups.back() |= mark;
+        groups.back() |= MarkOf(digit);
     }
     return groups;
 }
@@ -211,10 +198,8 @@ Digits CluesOf(const MarkTable& table) {
         for (int peer : Peers(cell)) {
             isClue = isClue && (marksAt(peer) & marks) == 0;
         }
-        for (int digit = 1; isClue && digit <= kDigits; ++digit) {
-            if (HasMark(marks, digit)) {
-                clues[static_cast<std::size_t>(cell)] = static_cast<std::uint8_t>(digit);
-            }
+        if (isClue) {
+            clues[static_cast<std::size_t>(cell)] = static_cast<std::uint8_t>(FirstDigit(marks));
         }
     }
     return clues;
@@ -279,7 +264,7 @@ std::optional<RecognizedPuzzle> RecognizePuzzle(std::string_view text) {
 Digits ReadByPosition(std::string_view text) {
     Digits clues{};
     for (std::size_t cell = 0; cell < kCells && !text.empty(); ++cell) {
-        clues[cell] = Value(text.front());
+        clues[cell] = DigitOf(text.front());
         text.remove_prefix(FirstCharacterLength(text));
     }
     return clues;

@@ -6,6 +6,7 @@
 
 #include "model/levels.h"
 #include "solver/fast_count.h"
+#include "tools/hardness.h"
 #include "tools/level_maker.h"
 
 namespace vemo {
@@ -14,14 +15,14 @@ namespace {
 // Few, and it runs into a dead end; many, and it takes long to get anywhere.
 constexpr std::size_t kKept = 60;
 constexpr std::size_t kBeginnings = 20;
-constexpr int kPatience = 30'000;  // tries without a harder puzzle than the least hard one kept
-constexpr int kMostOutlaws = 60;   // of one neighbourhood
+constexpr int kPatience = 20'000;  // tries without a harder puzzle than the least hard one kept
+constexpr int kMostOutlaws = 20;   // of one neighbourhood
 constexpr int kMostExchanged = 3;  // clues
 
 }  // namespace
 
 std::optional<RatedPuzzle> HardWalk::Next() {
-    if (triesSinceHarder_ == kPatience || outlaws_ == kMostOutlaws) {
+    if (triesSinceHarder_ == kPatience || outlaws_ >= kMostOutlaws) {
         kept_.clear();
         tried_.clear();
         triesSinceHarder_ = 0;
@@ -34,10 +35,13 @@ std::optional<RatedPuzzle> HardWalk::Next() {
     if (!tried_.insert(puzzle.clues).second) {
         return std::nullopt;
     }
-    const std::optional<RatedPuzzle> rated = RateIfAsHardAs(puzzle, LeastHardness());
-    if (rated) {
-        Keep(*rated);
+    const std::optional<int> hardness = HardnessFrom(puzzle.clues, LeastHardness());
+    if (!hardness) {
+        return std::nullopt;
     }
+    Keep({puzzle, *hardness});
+    const RatedPuzzle rated = Rate(puzzle);
+    outlaws_ += rated.rating == kOutlaw ? 1 : 0;
     return rated;
 }
 
@@ -45,20 +49,14 @@ int HardWalk::LeastHardness() const {
     return kept_.size() < kKept ? 0 : kept_.back().hardness;
 }
 
-void HardWalk::Keep(const RatedPuzzle& rated) {
-    ++triesSinceHarder_;
-    const bool isFull = kept_.size() == kKept;
-    if (rated.hardness < LeastHardness()) {
-        return;
-    }
-    if (isFull) {
-        triesSinceHarder_ = rated.hardness > kept_.back().hardness ? 0 : triesSinceHarder_;
+void HardWalk::Keep(const Kept& kept) {
+    if (kept_.size() == kKept) {
+        triesSinceHarder_ = kept.hardness > kept_.back().hardness ? 0 : triesSinceHarder_;
         kept_.pop_back();
     }
-    outlaws_ += rated.rating == kOutlaw ? 1 : 0;
     const auto place = std::ranges::find_if(
-        kept_, [&](const RatedPuzzle& other) { return other.hardness <= rated.hardness; });
-    kept_.insert(place, rated);
+        kept_, [&](const Kept& other) { return other.hardness <= kept.hardness; });
+    kept_.insert(place, kept);
 }
 
 PuzzleRecord HardWalk::Beginning() {

@@ -15,20 +15,25 @@ class HardWalk {
     explicit HardWalk(std::uint64_t seed) : random_(seed) {}
 
     // The next puzzle tried, with one solution and no clue too many; nothing where it was tried
-    // before or is much less hard than those kept. The hardest ones so far are
-    // kept, and neighbours of them tried. Where nothing harder turns up for long, and where enough
-    // of the hardest level was found in one neighbourhood, the walk begins anew elsewhere. The same
-    // seed makes the same walk.
+    // before or is less hard than those kept. The hardest ones so far are kept, and neighbours of
+    // them tried. Where nothing harder turns up for long, and where enough of the hardest level was
+    // found in one neighbourhood, the walk begins anew elsewhere. The same seed makes the same
+    // walk.
     std::optional<RatedPuzzle> Next();
 
   private:
+    struct Kept {
+        PuzzleRecord puzzle;
+        int hardness = 0;
+    };
+
     PuzzleRecord Beginning();
     PuzzleRecord NeighborOfAKeptOne();
     int LeastHardness() const;
-    void Keep(const RatedPuzzle& rated);
+    void Keep(const Kept& kept);
 
     Random random_;
-    std::vector<RatedPuzzle> kept_;  // from the hardest to the least hard
+    std::vector<Kept> kept_;  // from the hardest to the least hard
     std::set<Digits> tried_;
     int triesSinceHarder_ = 0;
     int outlaws_ = 0;

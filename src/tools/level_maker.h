@@ -1,7 +1,7 @@
 // Random puzzles with exactly one solution, and the nine levels that they are sorted into.
 //
 // The shipped level files and the corpus of the tests come from
-//     vemosud make-levels --output assets --seed 2026
+//     vemosud make-levels --output assets --seed 2026 --tries 1500
 //     vemosud make-levels --corpus tests/data/corpus.txt --corpus-count 400 --seed 2026
 #pragma once
 

@@ -25,10 +25,6 @@ struct Fields {
     std::optional<Digits> givens;
 };
 
-bool IsDigit(char character) {
-    return character >= '1' && character <= '9';
-}
-
 // 'q', or "byte 0x07" for what no terminal shows.
 std::string Shown(char character) {
     if (character > ' ' && character <= '~') {
@@ -60,9 +56,8 @@ Error ReadDigits(std::string_view field, std::string_view text, Digits& digits) 
     }
     for (std::size_t at = 0; at < kCells; ++at) {
         const char character = text[at];
-        if (IsDigit(character)) {
-            digits[at] = static_cast<std::uint8_t>(character - '0');
-        } else if (kBlankCells.find(character) == kBlankCells.npos) {
+        digits[at] = DigitOf(character);
+        if (!IsCell(character)) {
             return "character " + std::to_string(at + 1) + " of the " + std::string(field) +
                    " field (cell " + CellName(static_cast<int>(at)) + ") is " + Shown(character) +
                    ", neither a digit nor a blank";
@@ -73,11 +68,11 @@ Error ReadDigits(std::string_view field, std::string_view text, Digits& digits) 
 
 Error ReadMarksOf(int cell, std::string_view text, Marks& marks) {
     for (char character : text) {
-        if (!IsDigit(character)) {
+        const int digit = DigitOf(character);
+        if (digit == 0) {
             return "the marks of " + CellName(cell) + " hold " + Shown(character) +
                    ", which is no digit from 1 to 9";
         }
-        const int digit = character - '0';
         if (HasMark(marks, digit)) {
             return "the marks of " + CellName(cell) + " hold " + Shown(character) + " twice";
         }
@@ -165,14 +160,12 @@ Error SetMarks(Grid& grid, const MarkTable& table) {
     for (int cell : grid.EmptyCells()) {
         const Marks listed = table[static_cast<std::size_t>(cell)];
         const Marks legal = grid.MarksAt(cell);
-        for (int digit = 1; digit <= kDigits; ++digit) {
-            if (HasMark(listed, digit) && !HasMark(legal, digit)) {
-                return "the mark " + std::to_string(digit) + " of " + CellName(cell) +
-                       " cannot be: the digit stands in the same row, column or block";
-            }
-            if (!HasMark(listed, digit)) {
-                grid.VerwijderKnop(cell, digit);
-            }
+        if (const Marks wrong = listed & ~legal; wrong != 0) {
+            return "the mark " + std::to_string(FirstDigit(wrong)) + " of " + CellName(cell) +
+                   " cannot be: the digit stands in the same row, column or block";
+        }
+        for (int digit : DigitsOf(legal & ~listed)) {
+            grid.VerwijderKnop(cell, digit);
         }
     }
     return std::nullopt;
@@ -195,16 +188,23 @@ std::string WriteMarks(const Grid& grid) {
         if (cell > 0) {
             text += ',';
         }
-        for (int digit = 1; digit <= kDigits; ++digit) {
-            if (grid.KnopAan(cell, digit)) {
-                text += std::to_string(digit);
-            }
+        for (int digit : DigitsOf(grid.MarksAt(cell))) {
+            text += std::to_string(digit);
         }
     }
     return text;
 }
 
 }  // namespace
+
+std::uint8_t DigitOf(char character) {
+    return character >= '1' && character <= '9' ? static_cast<std::uint8_t>(character - '0')
+                                                : std::uint8_t{0};
+}
+
+bool IsCell(char character) {
+    return DigitOf(character) != 0 || kBlankCells.find(character) != kBlankCells.npos;
+}
 
 std::string_view WithoutByteOrderMark(std::string_view text) {
     return text.starts_with(kByteOrderMark) ? text.substr(kByteOrderMark.size()) : text;

@@ -14,6 +14,11 @@
 
 namespace vemo {
 
+// 1 to 9; 0 for any other character.
+std::uint8_t DigitOf(char character);
+// A digit, or a character for an empty cell.
+bool IsCell(char character);
+
 // The text without a UTF-8 byte-order mark in front.
 std::string_view WithoutByteOrderMark(std::string_view text);
 

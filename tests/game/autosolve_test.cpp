@@ -86,7 +86,7 @@ TEST_F(AutosolveTest, EveryStepIsLoggedShownAndHeardAndNothingIsCounted) {
     EXPECT_EQ(Seen().textHint, kSolvedText);
     EXPECT_EQ(view.paused, 300);
     EXPECT_EQ(sounds.played,
-              (std::vector<Sound>{Sound::Assign, Sound::Assign, Sound::Assign, Sound::Applause}));
+              (std::vector<Sound>{Sound::Hint, Sound::Hint, Sound::Hint, Sound::Applause}));
     EXPECT_EQ(Digit(9), 4);
     EXPECT_FALSE(Seen().isBoardEnabled);
     EXPECT_FALSE(Seen().Command(CommandId::SolveAutoSolve).isEnabled);
@@ -203,6 +203,20 @@ TEST_F(AutosolveTest, StopInTheMiddleOfATrialEndsAtOnce) {
     EXPECT_EQ(atTrial, 2);
     EXPECT_EQ(Seen().textHint, "Autosolve stopped");
     EXPECT_TRUE(Seen().isBoardEnabled);
+}
+
+TEST_F(AutosolveTest, AHintLogsItsTrialsAndNotWhatItFinds) {
+    const Digits clues = ParseDigits(kNeedsTrials);
+    files.WriteAt(Records().PuzzlePath(5), 0, Pack(RecordOf(clues)));
+    OpenFirst(5);
+    game->mnuSolveHint();
+    while (Seen().canApply && Seen().hintCaption != "Hint - Bifurcation") {
+        game->CommandApplyClick();
+        game->mnuSolveHint();
+    }
+    EXPECT_TRUE(Log().starts_with("\r\nBifurcation attempt: placed candidate ")) << Log();
+    EXPECT_NE(Log().find("Current Bifurcation attempt failed"), std::string::npos);
+    EXPECT_EQ(Log().find("Bifurcation placed"), std::string::npos);
 }
 
 TEST_F(AutosolveTest, ATechniqueThatHaltsShowsItsStepAndEndsTheRun) {

@@ -23,11 +23,13 @@ TEST(Brushes, EachButtonHasItsBrushAndALabelServesOne) {
 
 TEST(Brushes, PaintIsTakenOffWhereItIsThatColourAlready) {
     Brushes brushes;
-    EXPECT_FALSE(brushes.PaintCell(5, Left));
+    brushes.PaintCell(5, Left);
+    EXPECT_EQ(brushes.CellColor(5), kNoBrush) << "no brush is armed";
     brushes.Arm(4, Left);
     brushes.Arm(7, Right);
-    EXPECT_TRUE(brushes.PaintCell(5, Left));
-    EXPECT_TRUE(brushes.PaintCell(5, Right));
+    brushes.PaintCell(5, Left);
+    EXPECT_EQ(brushes.CellColor(5), 4);
+    brushes.PaintCell(5, Right);
     EXPECT_EQ(brushes.CellColor(5), 7);
     brushes.PaintCell(5, Right);
     EXPECT_EQ(brushes.CellColor(5), kNoBrush);
@@ -38,7 +40,7 @@ TEST(Brushes, AUnitIsPaintedWithItsLabel) {
     brushes.Arm(4, Left);
     brushes.Arm(7, Right);
     brushes.PaintCell(18, Left);
-    EXPECT_TRUE(brushes.PaintUnit(UnitKind::Row, 2, Left));
+    brushes.PaintUnit(UnitKind::Row, 2, Left);
     brushes.PaintUnit(UnitKind::Column, 1, Right);
     EXPECT_EQ(brushes.CellColor(18), 4) << "painted before, and not taken off";
     EXPECT_EQ(brushes.CellColor(19), 7);

@@ -288,7 +288,12 @@ TEST_F(EntryTest, APuzzleWhoseSolutionWasSeenIsNotCounted) {
 
 TEST_F(EntryTest, WhileTheClockIsStoppedTheBoardIsOff) {
     Left(kA1, 1);
+    GiveHint(stage);
+    const std::string explanation = session.textHint;
     session.isStoppedByPlayer = true;
+    ApplyHint(stage);
+    GiveHint(stage);
+    EXPECT_EQ(session.clock.Elapsed(), 10) << "one hint";
     session.selectedCell = kA2;
     Left(kB1, 4);
     AssignBySelection(stage, 2);
@@ -300,6 +305,7 @@ TEST_F(EntryTest, WhileTheClockIsStoppedTheBoardIsOff) {
     EXPECT_EQ(Steps(), 1);
     EXPECT_EQ(session.selectedCell, kA2);
     EXPECT_EQ(Digit(kB1), 0);
+    EXPECT_EQ(session.textHint, explanation);
 }
 
 }  // namespace

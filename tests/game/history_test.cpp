@@ -118,6 +118,29 @@ TEST(History, ANewStepCutsWhatCouldBeRedone) {
     EXPECT_EQ(history.StepCount(), 2);
 }
 
+// Autosolve fills cells without a step of its own; the steps before it can still be taken back.
+TEST(History, WhatWasFilledSinceAStepIsLeftAloneByItsUndo) {
+    Grid grid;
+    History history;
+    history.Discard(grid, kB1, 5);
+    history.Discard(grid, kB1, 6);
+    history.Place(grid, kA2, 4);
+    history.Reset(grid, kA2);
+    history.Place(grid, kJ9, 9);
+    for (auto [cell, digit] : {std::pair{kA1, 5}, {kA2, 8}}) {
+        grid.Zet(digit, cell);
+    }
+    const Digits filled = grid.AllDigits();
+    while (history.Undo(grid)) {
+    }
+    EXPECT_EQ(grid.Digit(kJ9), 0);
+    EXPECT_EQ(grid.Digit(kA2), 8);
+    EXPECT_EQ(grid.MarksAt(kB1), DigitsNamed("1234679")) << "A1 holds the 5, A2 the 8";
+    while (history.Redo(grid)) {
+    }
+    EXPECT_EQ(grid.AllDigits(), filled);
+}
+
 TEST(History, TheLastHundredEntriesAreSavedAsWholeSteps) {
     Grid grid;
     History history;

@@ -228,6 +228,39 @@ TEST_F(LevelsTest, ErasingALevelKeepsItsCountsAndErasingAllKeepsNothing) {
     EXPECT_EQ(Seen().status[3], "Level Best Time: 00:00");
 }
 
+TEST_F(LevelsTest, WhatASecondWindowCountedMeanwhileIsNotUndone) {
+    OpenFirst(1);
+    LevelStatistics counted;
+    counted.solvedCount = 5;
+    counted.totalMinutes = 5;
+    counted.best = {0, 30};
+    Records().WriteStatistics(1, counted);
+    Assign(0, 1);
+    game->mnuSudokuSave();
+    EXPECT_EQ(Kept(1).solvedCount, 5);
+    counted.solvedCount = 6;
+    Records().WriteStatistics(1, counted);
+    view.Expect("Congratulations", kNewSudokuTime);
+    Complete({1, 40, 80}, 61);
+    EXPECT_EQ(Kept(1).solvedCount, 7);
+    EXPECT_EQ(Kept(1).best, (PlayTime{0, 30}));
+}
+
+TEST_F(LevelsTest, InAFolderThatHasGoneProgressIsSavedAndNoPuzzleFileBegun) {
+    OpenFirst(1);
+    game->mnuSudokuNext();
+    Assign(0, 1);
+    std::filesystem::remove_all(DataFolder());
+    game->mnuSudokuSave();
+    EXPECT_EQ(Records().ReadPlayState(1, 2).digits[0], 1);
+    view.Expect("Congratulations", kNewSudokuTime);
+    view.Expect("File Error", "Error writing sudoku to file !");
+    view.Expect("Congratulations", kNewLevelTime);
+    Complete({5}, 61);
+    EXPECT_FALSE(files.Size(Records().PuzzlePath(1)));
+    EXPECT_EQ(Kept(1).solvedCount, 1);
+}
+
 TEST_F(LevelsTest, AWriteThatFailsIsTold) {
     OpenFirst(1);
     Assign(0, 1);

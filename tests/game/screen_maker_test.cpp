@@ -1,6 +1,5 @@
 // What the player sees of a puzzle in play: marks and their modes, highlights, wells, links, the
 // colours of a hint, and the covered board.
-#include "game/pencilmarks.h"
 #include "game/play_support.h"
 
 namespace vemo::test {
@@ -12,21 +11,13 @@ class ScreenTest : public PlayTest {
     bool IsShown(int cell, int digit) const { return MarkIn(Make(), cell, digit).isShown; }
 };
 
-std::vector<Role> RolesIn(const std::vector<LegendEntry>& legend) {
-    std::vector<Role> roles;
-    for (const LegendEntry& entry : legend) {
-        roles.push_back(entry.role);
-    }
-    return roles;
-}
-
 TEST_F(ScreenTest, MarksFollowTheirModesAndKeepTheCandidates) {
     EXPECT_TRUE(IsShown(kA1, 1));
     EXPECT_FALSE(IsShown(kA1, 2));
-    TogglePencilmarksDimmed(stage);
+    FlipOption(stage, &Options::dimmed);
     EXPECT_TRUE(MarkIn(Make(), kA1, 1).isDimmed);
     EXPECT_FALSE(MarkIn(Make(), kA1, 2).isDimmed);
-    TogglePencilmarksMode(stage);
+    FlipOption(stage, &Options::pencilmarks);
     EXPECT_FALSE(IsShown(kA1, 1));
     EXPECT_EQ(MarksAt(kA1), DigitsNamed("14"));
     EXPECT_EQ(settings.Get("Options", "Dimmed", ""), "True");
@@ -34,7 +25,7 @@ TEST_F(ScreenTest, MarksFollowTheirModesAndKeepTheCandidates) {
 }
 
 TEST_F(ScreenTest, TheSimpleDisplayShowsThePointedMarkAndTheHintsMarks) {
-    TogglePencilmarksOff(stage);
+    FlipOption(stage, &Options::pencilmarksOff);
     EXPECT_FALSE(IsShown(kA1, 1));
     session.pointedMark = kA1 * 9 + 3;
     EXPECT_TRUE(IsShown(kA1, 4));
@@ -75,7 +66,7 @@ TEST_F(ScreenTest, ADigitFilterHighlightsItsDigitAndDimsTheRest) {
     EXPECT_FALSE(MarkIn(screen, kA4, 7).isDimmed);
     EXPECT_TRUE(MarkIn(screen, kA4, 4).isDimmed);
     EXPECT_FALSE(MarkIn(screen, kA1, 7).isFiltered) << "not shown";
-    TogglePencilmarksDimmed(stage);
+    FlipOption(stage, &Options::dimmed);
     EXPECT_FALSE(MarkIn(Make(), kA4, 7).isDimmed);
     ToggleDigitFilter(stage, 7);
     EXPECT_EQ(Make().digitFilter, 0);
@@ -108,7 +99,7 @@ TEST_F(ScreenTest, ALinkIsDrawnWhileBothItsMarksAreThere) {
     EXPECT_TRUE(Make().links.empty());
     UndoStep(stage);
     EXPECT_EQ(Make().links.size(), 1u);
-    TogglePencilmarksMode(stage);
+    FlipOption(stage, &Options::pencilmarks);
     EXPECT_TRUE(Make().links.empty());
 }
 
@@ -138,20 +129,28 @@ TEST_F(ScreenTest, AHintIsColouredByItsFind) {
     EXPECT_EQ(MarkIn(screen, 6, 1).role, Role::Attacked);
     ASSERT_EQ(screen.links.size(), 1u);
     EXPECT_EQ(screen.links[0], (LinkView{8, 1, 17, 7, true, false})) << "the nearest cells";
-    ASSERT_EQ(RolesIn(screen.legend), (std::vector<Role>{Role::Pattern, Role::Attacked}));
-    EXPECT_EQ(screen.legend[0].text, "pattern");
-    EXPECT_EQ(screen.legend[1].text, "goes");
+    const LegendEntry strong{Role::None, "strong link", LinkLook{true, false}};
+    EXPECT_EQ(screen.legend, (std::vector<LegendEntry>{
+                                 {Role::Pattern, "pattern"}, {Role::Attacked, "goes"}, strong}));
     EXPECT_TRUE(screen.canApply);
 
-    session.hintColors.ZetHintNummer(kB1, 4, Role::Second);
-    session.hintColors.ZetHintNummer(kB1, 1, Role::Placed);
+    Find sets;
+    sets.kind = HintKind::AlsXz;
+    sets.secondColor = {At(kB1, 4)};
+    sets.placements.Add(At(kB1, 1));
+    sets.AddLink(At(kB1, 1), At(kB1, 4), Find::Strength::Weak);
+    sets.links[0].directed = true;
+    session.hintColors.Show(sets);
     session.hintColors.ZetHintNummer(30, 1, Role::Pattern);  // a filled cell
     session.isFunctionBusy = true;
     const Screen two = Make();
-    ASSERT_EQ(two.legend.size(), 4u);
-    EXPECT_EQ(two.legend[0].text, "one color");
-    EXPECT_EQ(two.legend[1].text, "other color");
-    EXPECT_EQ(two.legend[3].text, "comes here");
+    const LegendEntry weak{Role::None, "weak link", LinkLook{false, true}};
+    EXPECT_EQ(two.legend, (std::vector<LegendEntry>{{Role::Pattern, "first set"},
+                                                    {Role::Second, "second set"},
+                                                    {Role::Attacked, "goes"},
+                                                    {Role::Placed, "comes here"},
+                                                    strong,
+                                                    weak}));
     EXPECT_FALSE(two.canApply);
     EXPECT_FALSE(two.isBoardEnabled);
 }

@@ -175,5 +175,20 @@ TEST_F(StartupTest, MalformedSettingsReadAsTheirDefaults) {
     EXPECT_EQ(Seen().status[0], "Level: Medium");
 }
 
+TEST_F(StartupTest, ColoursAreReadBackAsTheyWereWrittenInBothPalettes) {
+    Colors colors = BuiltInColors();
+    colors.light.brush[9] = 0x010203;
+    colors.light.hint[7] = 0xFFFFFF;
+    colors.dark.brushText[0] = 0;
+    SchrijfKleuren(settings, colors);
+    EXPECT_EQ(settings.Get("Colors", "BColor9", ""), "66051");
+    EXPECT_EQ(settings.Get("Colors", "FColor100", ""), "0");
+    const Colors read = HaalKleuren(settings);
+    EXPECT_EQ(read.light.brush, colors.light.brush);
+    EXPECT_EQ(read.light.hint, colors.light.hint);
+    EXPECT_EQ(read.dark.brushText, colors.dark.brushText);
+    EXPECT_EQ(read.dark.hint, BuiltInColors().dark.hint);
+}
+
 }  // namespace
 }  // namespace vemo::test

@@ -95,6 +95,25 @@ TEST_F(FilesTest, ANewProgressFileHoldsOneEmptyStateAPuzzle) {
     EXPECT_EQ(Content(files.ProgressPath(1)), Bytes(4u * 1449));
 }
 
+TEST_F(FilesTest, ANewProgressFileKeepsTheStatesThatBelongToTheirPuzzles) {
+    PuzzleRecord puzzle = PuzzleWithBest({});
+    puzzle.clues[3] = 0;
+    PlayState state;
+    state.digits = puzzle.clues;
+    state.elapsed = {1, 2};
+    for (int number : {1, 2, 3}) {
+        ASSERT_FALSE(files.WritePuzzle(1, number, puzzle));
+    }
+    ASSERT_FALSE(files.WritePlayState(1, 2, state));
+    state.digits[0] = 0;
+    ASSERT_FALSE(files.WritePlayState(1, 3, state));
+    ASSERT_FALSE(files.CreateProgressFile(1, 3));
+    EXPECT_EQ(disk.Size(files.ProgressPath(1)), 3u * 1449);
+    EXPECT_EQ(files.ReadPlayState(1, 1), PlayState{});
+    EXPECT_EQ(files.ReadPlayState(1, 2).elapsed, (PlayTime{1, 2}));
+    EXPECT_EQ(files.ReadPlayState(1, 3), PlayState{});
+}
+
 TEST_F(FilesTest, StatisticsStandAtTheirLevelAndReadAsZeroWhereMissing) {
     LevelStatistics statistics;
     statistics.lastNumber = 17;

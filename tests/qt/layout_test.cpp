@@ -3,7 +3,10 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 
+#include "qt/hint_panel.h"
+#include "qt/reading_box.h"
 #include "qt/window_fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -18,6 +21,7 @@ class LayoutTest final : public QObject {
     void EverythingHasItsRoom();
     void TheColumnGoesBelowInATallWindow();
     void LongStatusTextsWrap();
+    void AHintIsReadToItsEnd();
 
   private:
     static QStringList Overlaps(QWidget& parent);
@@ -78,16 +82,26 @@ QStringList LayoutTest::CutTexts(QWidget& parent) {
 
 void LayoutTest::EverythingHasItsRoom_data() {
     QTest::addColumn<QSize>("size");
-    QTest::newRow("smallest") << QSize(480, 480);
-    QTest::newRow("usual") << QSize(1120, 800);
-    QTest::newRow("tall") << QSize(700, 1100);
-    QTest::newRow("narrow") << QSize(480, 1000);
-    QTest::newRow("flat") << QSize(1400, 480);
-    QTest::newRow("large") << QSize(2560, 1440);
+    QTest::addColumn<double>("text");
+    QTest::newRow("smallest") << QSize(480, 480) << 1.0;
+    QTest::newRow("usual") << QSize(1120, 800) << 1.0;
+    QTest::newRow("tall") << QSize(700, 1100) << 1.0;
+    QTest::newRow("narrow") << QSize(480, 1000) << 1.0;
+    QTest::newRow("flat") << QSize(1400, 480) << 1.0;
+    QTest::newRow("large") << QSize(2560, 1440) << 1.0;
+    QTest::newRow("small, large text") << QSize(720, 620) << 2.0;
+    QTest::newRow("usual, large text") << QSize(1120, 800) << 2.0;
+    QTest::newRow("tall, large text") << QSize(700, 1100) << 2.0;
 }
 
 void LayoutTest::EverythingHasItsRoom() {
     QFETCH(QSize, size);
+    QFETCH(double, text);
+    const QFont system = QApplication::font();
+    const auto restore = qScopeGuard([&system] { QApplication::setFont(system); });
+    QFont font = system;
+    font.setPointSizeF(system.pointSizeF() * text);
+    QApplication::setFont(font);
     WindowFixture fixture(QStringLiteral(VEMO_ASSETS));
     fixture.window.resize(size);
     QCOMPARE(fixture.window.size(), size);
@@ -109,8 +123,8 @@ void LayoutTest::EverythingHasItsRoom() {
     fixture.game.mnuSudokuMake();
     check();
     // Three lines of the text can be seen at least.
-    const auto& text = fixture.Find<QPlainTextEdit>("SudTekst");
-    QVERIFY(text.viewport()->height() >= 3 * text.fontMetrics().lineSpacing());
+    const auto& box = fixture.Find<QPlainTextEdit>("SudTekst");
+    QVERIFY(box.viewport()->height() >= 3 * box.fontMetrics().lineSpacing());
 }
 
 void LayoutTest::TheColumnGoesBelowInATallWindow() {
@@ -131,6 +145,44 @@ void LayoutTest::LongStatusTextsWrap() {
     fixture.window.resize(480, 480);
     QVERIFY(last.y() > first.geometry().bottom());
     QCOMPARE(last.text(), u"Level Average Time: 00:00"_s);
+}
+
+// Fonts of any size: their lines are as high as the text box makes them.
+void LayoutTest::AHintIsReadToItsEnd() {
+    const QString chain =
+        u"AIC - WEAK DISCONTINUITY: Since number 5 at cell H9 would lead along "_s +
+        u"the chain H9(5) - H6(5) = H6(2) - D6(2) = D6(8) - A6(8) = "_s.repeated(5);
+    QWidget parent;
+    parent.resize(400, 2000);
+    ReadingBox box(&parent);
+    parent.show();
+    const double system = parent.font().pointSizeF();
+    for (double size = 0.8 * system; size < 2 * system; size += 0.1) {
+        QFont font = parent.font();
+        font.setPointSizeF(size);
+        box.setFont(font);
+        box.ShowText(chain);
+        box.PlaceIn({0, 0, 220, 2000});
+        box.moveCursor(QTextCursor::End);
+        QCOMPARE(box.verticalScrollBar()->maximum(), 0);
+        QVERIFY2(box.cursorRect().bottom() <= box.viewport()->height(),
+                 qPrintable(font.toString()));
+    }
+
+    // In a small window other parts make room for it.
+    WindowFixture fixture(QStringLiteral(VEMO_ASSETS));
+    fixture.window.resize(480, 480);
+    fixture.OpenFirstEasy();
+    Screen screen = fixture.Shown();
+    screen.hintCaption = "Hint - AIC - Weak Discontinuity";
+    screen.textHint = chain.toStdString();
+    screen.legend = {{Role::Pattern, "on"}, {Role::Second, "off"}, {Role::Attacked, "goes"}};
+    screen.canApply = true;
+    auto& panel = static_cast<HintPanel&>(fixture.Find<QFrame>("HintPanel"));
+    panel.ShowScreen(screen, fixture.window.CurrentColors());
+    const auto& text = static_cast<ReadingBox&>(fixture.Find<QPlainTextEdit>("TextHint"));
+    QVERIFY(text.height() >= text.HeightOfLines(4));
+    QCOMPARE(Overlaps(panel).join(u'\n'), QString());
 }
 
 }  // namespace vemo::test

@@ -22,8 +22,7 @@ enum StepRow {
     kHiddenPair,
     kNakedQuad,
     kHiddenTriple,
-    kNakedQuint,
-    kXWing
+    kNakedQuint
 };
 inline const Step& StepAt(int row) {
     return Steps()[static_cast<std::size_t>(row)];

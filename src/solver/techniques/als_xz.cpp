@@ -1,10 +1,9 @@
 // Pairs of almost locked sets.
 #include <algorithm>
-#include <array>
 #include <span>
+#include <vector>
 
 #include "solver/bit_rows.h"
-#include "solver/techniques/color_group.h"
 #include "solver/techniques/families.h"
 #include "solver/text.h"
 
@@ -17,42 +16,34 @@ constexpr int CandidateNumber(int cell, int digit) {
     return cell * kDigits + digit - 1;
 }
 
-template <typename Visit>
-void ForEachDigit(Marks digits, Visit visit) {
-    for (; digits != 0; digits &= static_cast<Marks>(digits - 1)) {
-        visit(FirstDigit(digits));
-    }
-}
-
-// By digit - 1, the cells that lose it.
-using Losers = std::array<CellSet, kDigits>;
-
 // The digits of both sets that only one of them can hold: all their places in the one see all those
 // in the other.
 Marks RestrictedCommon(const AlmostLocked& a, const AlmostLocked& b) {
     Marks restricted = 0;
-    ForEachDigit(a.digits & b.digits, [&](int digit) {
+    for (int digit : DigitsOf(a.digits & b.digits)) {
         if (a.Kills(digit).Contains(b.Places(digit))) {
             restricted |= MarkOf(digit);
         }
-    });
+    }
     return restricted;
 }
 
 // What a pair takes, whether or not the digits are candidates there.
-Losers TakenBy(const AlmostLocked& a, const AlmostLocked& b, Marks restricted) {
-    Losers losers;
+CellsByDigit TakenBy(const AlmostLocked& a, const AlmostLocked& b, Marks restricted) {
+    CellsByDigit losers;
     const bool isDouble = (restricted & (restricted - 1)) != 0;
     const Marks unrestricted = kAllMarks & ~restricted;
     const auto losersOf = [&](int digit) -> CellSet& {
         return losers[static_cast<std::size_t>(digit - 1)];
     };
-    ForEachDigit(a.digits & b.digits & (isDouble ? kAllMarks : unrestricted),
-                 [&](int digit) { losersOf(digit) = a.Kills(digit) & b.Kills(digit); });
+    for (int digit : DigitsOf(a.digits & b.digits & (isDouble ? kAllMarks : unrestricted))) {
+        losersOf(digit) = a.Kills(digit) & b.Kills(digit);
+    }
     if (isDouble) {
         for (const AlmostLocked* set : {&a, &b}) {
-            ForEachDigit(set->digits & unrestricted,
-                         [&](int digit) { losersOf(digit) |= set->Kills(digit); });
+            for (int digit : DigitsOf(set->digits & unrestricted)) {
+                losersOf(digit) |= set->Kills(digit);
+            }
         }
     }
     return losers;
@@ -74,14 +65,14 @@ class PairSearch {
           work_(kWorkRows, Size()) {
         for (int number = 0; number < Size(); ++number) {
             const AlmostLocked& set = Set(number);
-            ForEachDigit(set.digits, [&](int digit) {
+            for (int digit : DigitsOf(set.digits)) {
                 for (int cell : set.Places(digit)) {
                     holding_.Add(CandidateNumber(cell, digit), number);
                 }
                 for (int cell : Killed(set, digit)) {
                     killing_.Add(CandidateNumber(cell, digit), number);
                 }
-            });
+            }
         }
     }
 
@@ -116,12 +107,12 @@ class PairSearch {
     void FindPartners(const AlmostLocked& set) {
         const int words = work_.Words();
         std::fill_n(work_.Row(0), kWorkRows * words, 0);
-        ForEachDigit(set.digits, [&](int digit) {
+        for (int digit : DigitsOf(set.digits)) {
             const CellSet killed = Killed(set, digit);
             if (killed.Any()) {
                 AddPartners(killed, digit);
             }
-        });
+        }
     }
 
     void AddPartners(CellSet killed, int digit) {
@@ -153,7 +144,7 @@ class PairSearch {
     }
 
     bool Offer(const AlmostLocked& a, const AlmostLocked& b, Marks restricted) {
-        const Losers losers = TakenBy(a, b, restricted);
+        const CellsByDigit losers = TakenBy(a, b, restricted);
         CellSet all;
         for (int digit = 1; digit <= kDigits; ++digit) {
             all |= losers[static_cast<std::size_t>(digit - 1)] & grid_.Candidates(digit);
@@ -176,12 +167,12 @@ class PairSearch {
         find.AddDigits(restricted);
         find.firstColor = Find::CandidatesOf(grid_, a.cells, a.digits);
         find.secondColor = Find::CandidatesOf(grid_, b.cells, b.digits);
-        ForEachDigit(restricted, [&](int digit) {
+        for (int digit : DigitsOf(restricted)) {
             find.links.push_back({.from = a.Places(digit),
                                   .to = b.Places(digit),
                                   .fromDigit = static_cast<std::uint8_t>(digit),
                                   .toDigit = static_cast<std::uint8_t>(digit)});
-        });
+        }
         return find;
     }
 
@@ -193,8 +184,8 @@ class PairSearch {
     BitRows work_;
 };
 
-std::string WithCandidates(const Group& set) {
-    return CellsInHint(set.cells) + " (candidates " + JoinDigits(set.digits) + ")";
+std::string WithCandidates(const std::vector<CellDigit>& set) {
+    return CellsInHint(CellsOf(set)) + " (candidates " + JoinDigits(MarksOf(set)) + ")";
 }
 
 }  // namespace
@@ -222,28 +213,25 @@ void ALSxz(const Position& position, const Args&, FindSink& sink) {
 
 std::string ALSxzLog(const Find& find) {
     const std::string title = find.kind == HintKind::BivalueAlsXz ? "Bi-Value ALSxz" : "ALSxz";
-    return title + ": Cells " + JoinCells(GroupOf(find.firstColor).cells) + " and cells " +
-           JoinCells(GroupOf(find.secondColor).cells) +
-           " with x=" + JoinDigits(Items(find.digits)) + RemovedInLog(find);
+    return title + ": Cells " + JoinCells(CellsOf(find.firstColor)) + " and cells " +
+           JoinCells(CellsOf(find.secondColor)) + " with x=" + JoinDigits(Items(find.digits)) +
+           RemovedInLog(find);
 }
 
 std::string ALSxzHint(const Find& find) {
     const std::string title = find.kind == HintKind::BivalueAlsXz ? "BI-VALUE ALSXZ" : "ALSXZ";
-    const Group a = GroupOf(find.firstColor);
-    const Group b = GroupOf(find.secondColor);
     const std::string digits = JoinDigits(Items(find.digits));
     if (find.digits.Size() > 1) {
         return title + ": Since the numbers " + digits + " are each allowed only once in " +
-               CellsInHint(a.cells) + " and " + CellsInHint(b.cells) +
+               CellsInHint(CellsOf(find.firstColor)) + " and " +
+               CellsInHint(CellsOf(find.secondColor)) +
                " together, both sets are locked and their numbers can be discarded from the cells "
                "that see all their places";
     }
-    Marks going = 0;
-    for (const CellDigit& removal : find.removals) {
-        going |= MarkOf(removal.digit);
-    }
-    return title + ": Since number " + digits + " can't be both in " + WithCandidates(a) +
-           " and in " + WithCandidates(b) + ", one of the two sets must hold " + JoinDigits(going) +
+    const Marks going = MarksOf(Items(find.removals));
+    return title + ": Since number " + digits + " can't be both in " +
+           WithCandidates(find.firstColor) + " and in " + WithCandidates(find.secondColor) +
+           ", one of the two sets must hold " + JoinDigits(going) +
            ", which can't be in any cell that sees all its places in both sets";
 }
 

@@ -122,7 +122,7 @@ void WXYZWing(const Position& position, const Args&, FindSink& sink) {
     const Grid& grid = position.Cells();
     const CellSet small = SmallCells(grid);
     BentSetSearch search(grid, kPlain, sink);
-    for (UnitKind kind : {UnitKind::Row, UnitKind::Column}) {
+    for (UnitKind kind : kLineKinds) {
         for (int pair = 0; pair < kDigits * kDigits; ++pair) {
             const CellSet line = UnitOf(kind, pair / kDigits).set & small;
             const CellSet box = UnitOf(UnitKind::Box, pair % kDigits).set & small;
@@ -150,19 +150,17 @@ std::string WXYZWingLog(const Find& find) {
 
 std::string WXYZWingHint(const Find& find) {
     const int going = find.removals[0].digit;
-    CellSet cells;
     CellSet holders;
     for (const auto& [cell, digit] : find.firstColor) {
-        cells.Add(cell);
         if (digit == going) {
             holders.Add(cell);
         }
     }
     const std::string number = std::to_string(going);
     return std::string(find.variant == kExtended ? "EXTENDED " : "") +
-           "WXYZ-WING: Since the four cells " + JoinCells(cells) + " hold only the candidates " +
-           JoinDigits(Items(find.digits)) + ", and of these only " + number +
-           " could be in two of them or in none, one of the cells " + JoinCells(holders) +
+           "WXYZ-WING: Since the four cells " + JoinCells(CellsOf(find.firstColor)) +
+           " hold only the candidates " + JoinDigits(Items(find.digits)) + ", and of these only " +
+           number + " could be in two of them or in none, one of the cells " + JoinCells(holders) +
            " must be " + number + " and this number can't be in any cell that sees all of these";
 }
 

@@ -10,16 +10,6 @@ std::string AtCell(int digit, int cell) {
     return std::to_string(digit) + " at cell " + CellName(cell);
 }
 
-CellSet BivalueCells(const Grid& grid) {
-    CellSet cells;
-    for (int cell : grid.EmptyCells()) {
-        if (BitCount(grid.MarksAt(cell)) == 2) {
-            cells.Add(cell);
-        }
-    }
-    return cells;
-}
-
 // Runs the ladder on a copy with the digit placed. Answers whether a single filled the grid.
 bool BIFSolveSudoku(Solver& solver, int digit, int cell) {
     Solver trial = solver.BeginTrial(digit, cell);
@@ -43,7 +33,7 @@ bool BIFSolveSudoku(Solver& solver, int digit, int cell) {
 // A trial that fails proves nothing and takes nothing away. By digit, then cell.
 void Bifurcation(Solver& solver, FindSink& sink) {
     const Grid before = solver.State().Cells();
-    const CellSet bivalue = BivalueCells(before);
+    const CellSet bivalue = solver.State().BivalueCells();
     for (int digit = 1; digit <= kDigits; ++digit) {
         for (int cell : bivalue& before.Candidates(digit)) {
             solver.Log("");

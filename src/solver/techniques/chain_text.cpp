@@ -4,10 +4,6 @@
 namespace vemo {
 namespace {
 
-std::string NodeText(CellSet cells, int digit) {
-    return SlashedCells(cells) + "(" + std::to_string(digit) + ")";
-}
-
 std::string JointText(const ChainLink& link) {
     if (link.set.Any()) {
         return " =ALS " + SlashedCells(link.set) + "= ";
@@ -36,6 +32,10 @@ ChainLink LinkAlong(const LinkGraph& graph, int from, int to, Find::Strength str
             .strong = isStrong,
             .directed = true,
             .set = isStrong ? graph.AlmostLockedBetween(from, to) : CellSet()};
+}
+
+std::string NodeText(CellSet cells, int digit) {
+    return SlashedCells(cells) + "(" + std::to_string(digit) + ")";
 }
 
 std::string ChainText(std::span<const ChainLink> chain) {

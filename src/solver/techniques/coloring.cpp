@@ -1,7 +1,6 @@
 // Colorings of a single digit: its conjugate pairs tie its places together into clusters of two
 // colours, and exactly one colour of each cluster is right.
 #include <array>
-#include <span>
 #include <vector>
 
 #include "solver/techniques/families.h"
@@ -19,14 +18,6 @@ struct Color {
     CellSet Seen() const { return cluster.seen[at]; }
     Color Partner() const { return {cluster, 1 - at}; }
 };
-
-CellSet CellsOf(std::span<const CellDigit> candidates) {
-    CellSet cells;
-    for (const CellDigit& candidate : candidates) {
-        cells.Add(candidate.cell);
-    }
-    return cells;
-}
 
 void AddStrongLinks(Find& find, const Grid& grid, const Cluster& cluster, int digit) {
     for (const CellSet pair : ConjugatePairsOf(grid, digit)) {
@@ -47,15 +38,6 @@ void AddWeakLink(Find& find, const Color& from, const Color& to, int digit) {
 
 bool SeeEachOther(const Color& a, const Color& b) {
     return (a.Seen() & b.Cells()).Any();
-}
-
-// The first unit that holds two of these cells; there is one.
-int UnitOfTwo(CellSet cells) {
-    int unit = 0;
-    while ((kUnits[static_cast<std::size_t>(unit)].set & cells).Count() < 2) {
-        ++unit;
-    }
-    return unit;
 }
 
 // A find on one cluster, its colours in the two colours; without effects yet.
@@ -204,11 +186,7 @@ std::array<CellSet, 4> FourColors(const Find& find) {
 
 // Of type 2, the colour that sees both colours of the other cluster.
 CellSet ColorThatGoes(const Find& find) {
-    CellSet cells;
-    for (int cell : find.cells) {
-        cells.Add(cell);
-    }
-    return cells - CellsOf(find.firstColor) - CellsOf(find.secondColor) -
+    return CellsOf(Items(find.cells)) - CellsOf(find.firstColor) - CellsOf(find.secondColor) -
            CellsOf(Items(find.placements));
 }
 

@@ -70,10 +70,10 @@ class PairSearch {
     Marks ExcludedAt(int cell, int other) const {
         const int own = bits_.BitOf(other);
         Marks excluded = 0;
-        for (Marks left = grid_.MarksAt(cell); left != 0; left &= static_cast<Marks>(left - 1)) {
-            const int bit = bits_.BitOf(At(cell, FirstDigit(left)));
+        for (int digit : DigitsOf(grid_.MarksAt(cell))) {
+            const int bit = bits_.BitOf(At(cell, digit));
             if ((table_.CellsWithoutPartner(bit, own / 64) >> (own % 64) & 1) != 0) {
-                excluded |= MarkOf(FirstDigit(left));
+                excluded |= MarkOf(digit);
             }
         }
         return excluded;
@@ -83,11 +83,9 @@ class PairSearch {
     // number, the first set that makes it impossible.
     CellSet ExcludersOf(int cell, Marks excluded, int other) const {
         CellSet cells;
-        for (; excluded != 0; excluded &= static_cast<Marks>(excluded - 1)) {
-            const int digit = FirstDigit(excluded);
-            Marks others = grid_.MarksAt(other);
-            for (; others != 0; others &= static_cast<Marks>(others - 1)) {
-                cells |= ExcluderOf(At(cell, digit), At(other, FirstDigit(others)));
+        for (int digit : DigitsOf(excluded)) {
+            for (int otherDigit : DigitsOf(grid_.MarksAt(other))) {
+                cells |= ExcluderOf(At(cell, digit), At(other, otherDigit));
             }
         }
         return cells;

@@ -14,7 +14,7 @@ namespace vemo {
 // What a row of the ladder passes to its search; a search reads the fields that it knows.
 struct Args {
     bool naked = false;  // naked or hidden subset
-    int size = 0;        // digits of a subset, lines of a fish, cells of a wing
+    int size = 0;        // digits of a subset
     int length = 0;      // the longest chain allowed, in links
 };
 

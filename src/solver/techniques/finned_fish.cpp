@@ -48,8 +48,8 @@ bool OfferFinned(const Grid& grid, UnitKind baseKind, int digit, const FinnedFis
     const CellSet corners = base & LinesOf(coverKind, 1u << fish.plain | 1u << fish.beside);
     Find find;
     find.kind = HintKind::FinnedXWing;
-    find.AddUnit(UnitNumber(baseKind, std::min(fish.exact, fish.finned)));
-    find.AddUnit(UnitNumber(baseKind, std::max(fish.exact, fish.finned)));
+    find.AddUnit(UnitOf(baseKind, std::min(fish.exact, fish.finned)));
+    find.AddUnit(UnitOf(baseKind, std::max(fish.exact, fish.finned)));
     find.AddCells(base);
     find.AddDigit(digit);
     find.firstColor = Find::CandidatesOf(grid, corners, MarkOf(digit));
@@ -79,11 +79,7 @@ bool SearchFromLine(const Grid& grid, UnitKind baseKind, int digit, const Member
 }
 
 std::string FinsOf(const Find& find) {
-    CellSet fins;
-    for (const CellDigit& fin : find.secondColor) {
-        fins.Add(fin.cell);
-    }
-    return JoinCells(fins);
+    return JoinCells(CellsOf(find.secondColor));
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ bool OfferFish(const Grid& grid, UnitKind baseKind, HintKind kind, int digit, co
     find.kind = kind;
     for (int index = 0; index < 9; ++index) {
         if ((fish.base >> index & 1) != 0) {
-            find.AddUnit(UnitNumber(baseKind, index));
+            find.AddUnit(UnitOf(baseKind, index));
         }
     }
     find.AddCells(base & places);
@@ -122,13 +122,7 @@ CellSet LinesOf(UnitKind kind, unsigned mask) {
 }
 
 FishWords::FishWords(const Find& find) {
-    CellSet corners;
-    for (int cell : find.cells) {
-        corners.Add(cell);
-    }
-    for (const CellDigit& fin : find.secondColor) {
-        corners.Remove(fin.cell);
-    }
+    const CellSet corners = CellsOf(Items(find.cells)) - CellsOf(find.secondColor);
     std::vector<std::string> labels;
     const Unit& first = find.UnitAt(0);
     for (int index = 0; index < 9; ++index) {

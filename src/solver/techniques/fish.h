@@ -8,13 +8,6 @@
 
 namespace vemo {
 
-// All base lines of a search are rows, or all are columns.
-inline constexpr std::array kLineKinds = {UnitKind::Row, UnitKind::Column};
-
-constexpr UnitKind CrossingKind(UnitKind line) {
-    return line == UnitKind::Row ? UnitKind::Column : UnitKind::Row;
-}
-
 // By base line the crossing lines on which it holds the digit; a line with a single place is a
 // hidden single and no base line.
 Members CrossingsOf(const Grid& grid, UnitKind base, int digit);

@@ -148,8 +148,8 @@ ForcingSearch::ForcingSearch(const Grid& grid, const LinkGraph& graph, BitRows& 
 void ForcingSearch::AddSources(HintKind kind, int unit, CellSet cells, Marks marks) {
     SourceSet::Nodes sources;
     for (int cell : cells) {
-        for (Marks left = marks; left != 0; left &= static_cast<Marks>(left - 1)) {
-            sources.Add(static_cast<std::int16_t>(graph_.NodeOf(cell, FirstDigit(left))));
+        for (int digit : DigitsOf(marks)) {
+            sources.Add(static_cast<std::int16_t>(graph_.NodeOf(cell, digit)));
         }
     }
     if (sources.Size() >= kFewestSources) {

@@ -104,9 +104,7 @@ using Deadly = std::array<std::array<Marks, 4>, kDigits + 1>;
 bool FindDeadly(const OpenRectangle& open, Deadly& deadly) {
     bool any = false;
     for (std::size_t corner = 0; corner < 4; ++corner) {
-        Marks forced = ForcedBeside(open, corner);
-        for (; forced != 0; forced &= static_cast<Marks>(forced - 1)) {
-            const int p = FirstDigit(forced);
+        for (int p : DigitsOf(ForcedBeside(open, corner))) {
             const Marks digits = DeadlyDigits(open, corner, p);
             deadly[static_cast<std::size_t>(p)][corner] = digits;
             any |= digits != 0;

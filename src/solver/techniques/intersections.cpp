@@ -22,8 +22,8 @@ bool OfferIntersection(const Grid& grid, HintKind kind, const Unit& from, const 
     }
     Find find;
     find.kind = kind;
-    find.AddUnit(UnitNumber(from.kind, from.index));
-    find.AddUnit(UnitNumber(to.kind, to.index));
+    find.AddUnit(from);
+    find.AddUnit(to);
     find.AddCells(places);
     find.AddDigit(digit);
     find.Remove(grid, losers, MarkOf(digit));
@@ -59,15 +59,14 @@ std::string IntersectionLog(const char* name, const Unit& line, const Find& find
 
 // Within a box a digit stands only on one row or column: it goes from the rest of that line.
 void PointingPair(const Position& position, const Args&, FindSink& sink) {
-    static constexpr std::array kLines = {UnitKind::Row, UnitKind::Column};
-    SearchIntersections(position.Cells(), HintKind::PointingPair, UnitKind::Box, kLines, sink);
+    SearchIntersections(position.Cells(), HintKind::PointingPair, UnitKind::Box, kLineKinds, sink);
 }
 
 // Within a row or column a digit stands only in one box: it goes from the rest of that box. All
 // rows before any column.
 void BoxLine(const Position& position, const Args&, FindSink& sink) {
     static constexpr std::array kBox = {UnitKind::Box};
-    for (UnitKind line : {UnitKind::Row, UnitKind::Column}) {
+    for (UnitKind line : kLineKinds) {
         if (!SearchIntersections(position.Cells(), HintKind::BoxLine, line, kBox, sink)) {
             return;
         }

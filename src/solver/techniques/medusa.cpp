@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "solver/techniques/chain_text.h"
 #include "solver/techniques/families.h"
 #include "solver/text.h"
 
@@ -13,8 +14,6 @@ namespace vemo {
 namespace {
 
 constexpr std::size_t kCandidates = kCells * kDigits;
-
-using CellsByDigit = std::array<CellSet, kDigits>;  // by digit - 1
 
 // What makes a colour wrong, as the variant of the find; with None, either may be right.
 enum class Flaw : std::uint8_t { None, TwoInCell, TwiceInUnit, NoneInCell };
@@ -111,12 +110,6 @@ CellSet EmptiedBy(const Grid& grid, const Color& color) {
     return CellsWithCandidates(grid) - left;
 }
 
-// The first unit that holds two of these cells; there is one.
-int UnitOfTwo(CellSet cells) {
-    const auto holdsTwo = [&](const Unit& unit) { return (unit.set & cells).Count() >= 2; };
-    return static_cast<int>(std::ranges::find_if(kUnits, holdsTwo) - kUnits.begin());
-}
-
 // A flaw, with the cell that would hold two numbers or none, or with the digit and the unit that
 // would hold it twice.
 struct FlawAt {
@@ -131,7 +124,8 @@ FlawAt FlawOf(const Grid& grid, const Color& color) {
     }
     for (std::size_t k = 0; k < kDigits; ++k) {
         if ((color.places[k] & color.seen[k]).Any()) {
-            return {Flaw::TwiceInUnit, UnitOfTwo(color.places[k]), static_cast<int>(k) + 1};
+            const Unit& unit = UnitOfTwo(color.places[k]);
+            return {Flaw::TwiceInUnit, UnitNumber(unit.kind, unit.index), static_cast<int>(k) + 1};
         }
     }
     const CellSet emptied = EmptiedBy(grid, color);
@@ -225,7 +219,7 @@ bool OfferPart(const Grid& grid, const Part& part, FindSink& sink) {
 std::string JoinCandidates(const std::vector<CellDigit>& candidates) {
     std::vector<std::string> items;
     for (const auto [cell, digit] : candidates) {
-        items.push_back(CellName(cell) + "(" + std::to_string(digit) + ")");
+        items.push_back(NodeText(CellSet::Of(cell), digit));
     }
     return Join(items);
 }
@@ -272,8 +266,8 @@ void Medusa(const Position& position, const Args&, FindSink& sink) {
     const Grid& grid = position.Cells();
     CellsByDigit known{};
     for (const int cell : CellsWithCandidates(grid)) {
-        for (Marks left = grid.MarksAt(cell); left != 0; left &= static_cast<Marks>(left - 1)) {
-            const CellDigit first = At(cell, FirstDigit(left));
+        for (int digit : DigitsOf(grid.MarksAt(cell))) {
+            const CellDigit first = At(cell, digit);
             const bool isKnown = known[first.digit - 1u].Has(cell);
             if (isKnown || (OtherDigit(grid, first) == 0 && !PartnersOf(grid, first).Any())) {
                 continue;

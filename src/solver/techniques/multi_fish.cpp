@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <vector>
 
-#include "solver/techniques/color_group.h"
 #include "solver/techniques/families.h"
 #include "solver/techniques/fish.h"
 #include "solver/techniques/tight_crossings.h"
@@ -94,19 +93,17 @@ struct LineGroup {
         ForEach([&](const Unit&, Marks inside, Marks outside) { taken |= inside & outside; });
         return (taken & counted) != 0;
     }
-    void Take(Marks counted, std::array<CellSet, kDigits>& taken) const {
+    void Take(Marks counted, CellsByDigit& taken) const {
         const CellSet met = LinesOf(CrossingKind(kind), crossing);
         ForEach([&](const Unit& line, Marks inside, Marks) {
-            for (std::size_t k = 0; k < kDigits; ++k) {
-                if (HasMark(inside & counted, static_cast<int>(k) + 1)) {
-                    taken[k] |= line.set - met;
-                }
+            for (int digit : DigitsOf(inside & counted)) {
+                taken[static_cast<std::size_t>(digit - 1)] |= line.set - met;
             }
         });
     }
     void AddUnits(Find& find) const {
         for (unsigned left = lines; left != 0; left &= left - 1) {
-            find.AddUnit(UnitNumber(kind, std::countr_zero(left)));
+            find.AddUnit(UnitOf(kind, std::countr_zero(left)));
         }
     }
 };
@@ -158,7 +155,7 @@ bool Offer(const Grid& grid, const Pattern& pattern, FindSink& sink) {
     const Marks others = static_cast<Marks>(kAllMarks & ~pattern.countedByRows);
     find.firstColor = Find::CandidatesOf(grid, pattern.cells, pattern.countedByRows);
     find.secondColor = Find::CandidatesOf(grid, pattern.cells, others);
-    std::array<CellSet, kDigits> taken;
+    CellsByDigit taken;
     pattern.rows.Take(pattern.countedByRows, taken);
     pattern.columns.Take(pattern.countedByColumns, taken);
     find.Remove(grid, taken);
@@ -223,10 +220,10 @@ std::string MultiFishHint(const Find& find) {
     const Labels labels(find);
     std::vector<std::string> counted;
     if (!find.firstColor.empty()) {
-        counted.push_back("of " + JoinDigits(GroupOf(find.firstColor).digits) + " one per row");
+        counted.push_back("of " + JoinDigits(MarksOf(find.firstColor)) + " one per row");
     }
     if (!find.secondColor.empty()) {
-        counted.push_back("of " + JoinDigits(GroupOf(find.secondColor).digits) + " one per column");
+        counted.push_back("of " + JoinDigits(MarksOf(find.secondColor)) + " one per column");
     }
     const std::string count = std::to_string(find.cells.Size());
     return "MULTIFISH: Since the " + count + " open cells where rows " + labels.rows +

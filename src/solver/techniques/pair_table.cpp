@@ -8,16 +8,16 @@ namespace vemo {
 CandidateBits::CandidateBits(const Grid& grid) {
     candidates_.reserve(4 * 64);
     for (int cell : grid.EmptyCells()) {
-        Marks left = grid.MarksAt(cell);
-        if (left == 0) {
+        const Marks marks = grid.MarksAt(cell);
+        if (marks == 0) {
             continue;
         }
-        const std::size_t wanted = static_cast<std::size_t>(BitCount(left)) + 1;
+        const std::size_t wanted = static_cast<std::size_t>(BitCount(marks)) + 1;
         if (candidates_.size() % 64 + wanted > 64) {
             candidates_.resize((candidates_.size() + 63) / 64 * 64);
         }
-        for (; left != 0; left &= static_cast<Marks>(left - 1)) {
-            AddBit(cell, FirstDigit(left));
+        for (int digit : DigitsOf(marks)) {
+            AddBit(cell, digit);
         }
         AddBit(cell, 0);
     }
@@ -41,8 +41,7 @@ void CandidateBits::AddBit(int cell, int digit) {
 
 void CandidateBits::AddRobbers(const Grid& grid, const AlmostLocked& set,
                                std::uint64_t* row) const {
-    for (Marks left = set.digits; left != 0; left &= static_cast<Marks>(left - 1)) {
-        const int digit = FirstDigit(left);
+    for (int digit : DigitsOf(set.digits)) {
         for (int cell : set.Kills(digit) & grid.Candidates(digit)) {
             const int bit = BitOf(At(cell, digit));
             row[bit / 64] |= std::uint64_t{1} << (bit % 64);

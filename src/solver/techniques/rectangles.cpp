@@ -77,11 +77,7 @@ std::optional<Find> UniqueRectangleFind(const Grid& grid, UniqueType type,
 }
 
 CellSet CornersOf(const Find& find) {
-    CellSet corners;
-    for (int cell : Items(find.cells).first(4)) {
-        corners.Add(cell);
-    }
-    return corners;
+    return CellsOf(Items(find.cells).first(4));
 }
 
 std::string JoinCorners(const Find& find) {

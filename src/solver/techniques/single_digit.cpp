@@ -4,7 +4,6 @@
 
 #include "model/sequence.h"
 #include "solver/techniques/families.h"
-#include "solver/techniques/fish.h"
 #include "solver/text.h"
 
 namespace vemo {
@@ -85,7 +84,7 @@ bool OfferRectangle(const Grid& grid, const Rectangle& rectangle, const Pair& pa
         return true;
     }
     for (const Unit* unit : {&rectangle.box, &rectangle.row, &rectangle.column}) {
-        find.AddUnit(UnitNumber(unit->kind, unit->index));
+        find.AddUnit(*unit);
     }
     find.AddUnit(pair.unit);
     find.AddCells(pair.cells);

@@ -17,14 +17,11 @@ Marks SinglesOf(const Grid& grid, const Unit& unit) {
     return static_cast<Marks>(once & ~twice);
 }
 
-bool OfferHiddenSingles(const Grid& grid, int unitNumber, FindSink& sink) {
-    const Unit& unit = kUnits[static_cast<std::size_t>(unitNumber)];
-    for (Marks singles = SinglesOf(grid, unit); singles != 0;
-         singles &= static_cast<Marks>(singles - 1)) {
-        const int digit = FirstDigit(singles);
+bool OfferHiddenSingles(const Grid& grid, const Unit& unit, FindSink& sink) {
+    for (int digit : DigitsOf(SinglesOf(grid, unit))) {
         const int cell = (grid.Candidates(digit) & unit.set).First();
         Find find = Find::Placing(HintKind::HiddenSingle, cell, digit);
-        find.AddUnit(unitNumber);
+        find.AddUnit(unit);
         if (!sink.Offer(find)) {
             return false;
         }
@@ -39,7 +36,7 @@ bool OfferHiddenSingles(const Grid& grid, int unitNumber, FindSink& sink) {
 void HiddenSingle(const Position& position, const Args&, FindSink& sink) {
     for (UnitKind kind : {UnitKind::Box, UnitKind::Row, UnitKind::Column}) {
         for (int index = 0; index < 9; ++index) {
-            if (!OfferHiddenSingles(position.Cells(), UnitNumber(kind, index), sink)) {
+            if (!OfferHiddenSingles(position.Cells(), UnitOf(kind, index), sink)) {
                 return;
             }
         }

@@ -17,11 +17,11 @@ bool IsNaked(const Find& find) {
     return find.variant <= 4;
 }
 
-Find SubsetFind(const Args& args, int unitNumber, CellSet cells, Marks digits) {
+Find SubsetFind(const Args& args, const Unit& unit, CellSet cells, Marks digits) {
     Find find;
     find.kind = HintKind::Subset;
     find.variant = VariantOf(args);
-    find.AddUnit(unitNumber);
+    find.AddUnit(unit);
     find.AddCells(cells);
     find.AddDigits(digits);
     return find;
@@ -53,16 +53,14 @@ Members DigitsOfCells(const Grid& grid, const Unit& unit) {
 Members CellsOfDigits(const Members& digitsOfCells) {
     Members members{};
     for (unsigned k = 0; k < 9; ++k) {
-        for (Marks marks = static_cast<Marks>(digitsOfCells[k]); marks != 0;
-             marks &= static_cast<Marks>(marks - 1)) {
-            members[static_cast<std::size_t>(FirstDigit(marks) - 1)] |= 1u << k;
+        for (int digit : DigitsOf(static_cast<Marks>(digitsOfCells[k]))) {
+            members[static_cast<std::size_t>(digit - 1)] |= 1u << k;
         }
     }
     return members;
 }
 
-bool OfferNaked(const Grid& grid, int unitNumber, const Args& args, FindSink& sink) {
-    const Unit& unit = kUnits[static_cast<std::size_t>(unitNumber)];
+bool OfferNaked(const Grid& grid, const Unit& unit, const Args& args, FindSink& sink) {
     const Members cells = DigitsOfCells(grid, unit);
     return ForEachSubset(cells, args.size, [&](unsigned chosen, unsigned bits) {
         const Marks digits = static_cast<Marks>(bits);
@@ -73,18 +71,17 @@ bool OfferNaked(const Grid& grid, int unitNumber, const Args& args, FindSink& si
                 return true;
             }
         }
-        Find find = SubsetFind(args, unitNumber, subset, digits);
+        Find find = SubsetFind(args, unit, subset, digits);
         return !VerwijderNS(grid, unit, subset, digits, find) || sink.Offer(find);
     });
 }
 
-bool OfferHidden(const Grid& grid, int unitNumber, const Args& args, FindSink& sink) {
-    const Unit& unit = kUnits[static_cast<std::size_t>(unitNumber)];
+bool OfferHidden(const Grid& grid, const Unit& unit, const Args& args, FindSink& sink) {
     const Members digits = CellsOfDigits(DigitsOfCells(grid, unit));
     return ForEachSubset(digits, args.size, [&](unsigned chosen, unsigned positions) {
         const Marks kept = static_cast<Marks>(chosen << 1);
         const CellSet subset = CellsAt(unit, positions);
-        Find find = SubsetFind(args, unitNumber, subset, kept);
+        Find find = SubsetFind(args, unit, subset, kept);
         const Marks others = static_cast<Marks>(kAllMarks & ~kept);
         return !find.Remove(grid, subset, others) || sink.Offer(find);
     });
@@ -106,9 +103,9 @@ std::string NameOf(const std::array<const char*, 6>& names, const Find& find) {
 // so that every other candidate goes from them. Rows, then columns, then boxes; within a unit by
 // cells (naked) or digits (hidden).
 void NakedHidden(const Position& position, const Args& args, FindSink& sink) {
-    for (int unitNumber = 0; unitNumber < kUnitCount; ++unitNumber) {
-        const bool goOn = args.naked ? OfferNaked(position.Cells(), unitNumber, args, sink)
-                                     : OfferHidden(position.Cells(), unitNumber, args, sink);
+    for (const Unit& unit : kUnits) {
+        const bool goOn = args.naked ? OfferNaked(position.Cells(), unit, args, sink)
+                                     : OfferHidden(position.Cells(), unit, args, sink);
         if (!goOn) {
             return;
         }

@@ -5,15 +5,19 @@
 #include <bit>
 #include <vector>
 
-#include "solver/techniques/color_group.h"
 #include "solver/techniques/families.h"
-#include "solver/techniques/fish.h"
 #include "solver/text.h"
 
 namespace vemo {
 namespace {
 
 constexpr std::size_t kMostCells = 6;  // of a line or a box outside their crossing
+
+// Some cells, and the digits that they hold.
+struct Group {
+    CellSet cells;
+    Marks digits = 0;
+};
 
 // Some of the cells of a field, and the digits that they hold.
 struct Subset {
@@ -121,14 +125,12 @@ class CrossingSearch {
         const Marks digits = common.digits | inLine.digits | inBox.digits;
         const CellSet restOfLine = line_.set - common.cells - inLine.cells;
         const CellSet restOfBox = box_.set - common.cells - inBox.cells;
-        std::array<CellSet, kDigits> taken;
+        CellsByDigit taken;
         CellSet losers;
-        for (int digit = 1; digit <= kDigits; ++digit) {
+        for (int digit : DigitsOf(digits)) {
             CellSet& cells = taken[static_cast<std::size_t>(digit - 1)];
-            if (HasMark(digits, digit)) {
-                cells |= HasMark(inBox.digits, digit) ? CellSet() : restOfLine;
-                cells |= HasMark(inLine.digits, digit) ? CellSet() : restOfBox;
-            }
+            cells |= HasMark(inBox.digits, digit) ? CellSet() : restOfLine;
+            cells |= HasMark(inLine.digits, digit) ? CellSet() : restOfBox;
             losers |= cells & grid_.Candidates(digit);
         }
         if (!losers.Any()) {
@@ -137,8 +139,8 @@ class CrossingSearch {
         const CellSet arms = inLine.cells | inBox.cells;
         Find find;
         find.kind = HintKind::SueDeCoq;
-        find.AddUnit(UnitNumber(line_.kind, line_.index));
-        find.AddUnit(UnitNumber(box_.kind, box_.index));
+        find.AddUnit(line_);
+        find.AddUnit(box_);
         find.AddCells(common.cells | arms);
         find.AddDigits(digits);
         find.firstColor = Find::CandidatesOf(grid_, common.cells, kAllMarks);
@@ -157,7 +159,7 @@ class CrossingSearch {
 Group ArmOf(const Find& find, const Unit& unit) {
     std::vector<CellDigit> arm = find.secondColor;
     std::erase_if(arm, [&](const CellDigit& at) { return !unit.set.Has(at.cell); });
-    return GroupOf(arm);
+    return {CellsOf(arm), MarksOf(arm)};
 }
 
 }  // namespace
@@ -190,7 +192,7 @@ std::string SueDeCoqLog(const Find& find) {
     const Unit& line = find.UnitAt(0);
     const Unit& box = find.UnitAt(1);
     return "Sue-De-Coq: " + UnitInLog(line) + " and " + UnitInLog(box) + " with cells " +
-           JoinCells(GroupOf(find.firstColor).cells) + ", line cells " +
+           JoinCells(CellsOf(find.firstColor)) + ", line cells " +
            JoinCells(ArmOf(find, line).cells) + " and box cells " +
            JoinCells(ArmOf(find, box).cells) + RemovedInLog(find);
 }
@@ -198,7 +200,7 @@ std::string SueDeCoqLog(const Find& find) {
 std::string SueDeCoqHint(const Find& find) {
     const Unit& line = find.UnitAt(0);
     const Unit& box = find.UnitAt(1);
-    const Marks all = GroupOf(find.firstColor).digits | GroupOf(find.secondColor).digits;
+    const Marks all = MarksOf(find.firstColor) | MarksOf(find.secondColor);
     const auto numbersWithout = [&](const Group& arm) {
         return "the numbers " + JoinDigits(static_cast<Marks>(all & ~arm.digits));
     };

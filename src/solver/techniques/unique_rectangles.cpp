@@ -260,12 +260,9 @@ std::string WouldHoldOnly(const Find& find) {
 }
 
 std::string Type1Hint(const Find& find) {
-    Marks going = 0;
-    for (const CellDigit& removal : find.removals) {
-        going |= MarkOf(removal.digit);
-    }
-    return "UNIQUE RECTANGLE TYPE 1: " + WouldHoldOnly(find) + JoinDigits(going) +
-           " can be discarded from cell " + CellName(find.cells[3]);
+    return "UNIQUE RECTANGLE TYPE 1: " + WouldHoldOnly(find) +
+           JoinDigits(MarksOf(Items(find.removals))) + " can be discarded from cell " +
+           CellName(find.cells[3]);
 }
 
 std::string Type2Hint(const Find& find) {
@@ -279,10 +276,7 @@ std::string Type3Hint(const Find& find) {
     for (const auto& [cell, digit] : find.secondColor) {
         extras |= CornersOf(find).Has(cell) ? MarkOf(digit) : Marks{0};
     }
-    CellSet helpers;
-    for (int cell : Items(find.cells).subspan(4)) {
-        helpers.Add(cell);
-    }
+    const CellSet helpers = CellsOf(Items(find.cells).subspan(4));
     return "UNIQUE RECTANGLE TYPE 3: Since one of the cells " + JoinRoof(find) +
            " must hold a number other than " + JoinPair(find) +
            ", these cells count as one cell with candidates " + JoinDigits(extras) +

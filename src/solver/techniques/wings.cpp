@@ -108,10 +108,7 @@ std::string WingHint(const WingForm& form, const Find& find) {
     const std::string going = std::to_string(find.removals[0].digit);
     // A pivot of three candidates holds the digit that goes, one of two does not.
     const std::size_t pivotSize = static_cast<std::size_t>(form.pivotSize);
-    CellSet holders;
-    for (int cell : Items(find.cells).last(pivotSize)) {
-        holders.Add(cell);
-    }
+    const CellSet holders = CellsOf(Items(find.cells).last(pivotSize));
     return std::string(form.hintName) + ": Since cell " + CellName(find.cells[0]) +
            " can only be " + JoinDigits(Items(find.digits).first(pivotSize), " or ") +
            ", one of the cells " + JoinCells(holders) + " must be " + going + ", and number " +
@@ -127,6 +124,10 @@ struct Ring {
     std::array<Marks, kSize> sides;
 
     int After(std::size_t at) const { return cells[(at + 1) % kSize]; }
+    CellSet Cells() const {
+        return CellSet::Of(cells[0]) | CellSet::Of(cells[1]) | CellSet::Of(cells[2]) |
+               CellSet::Of(cells[3]);
+    }
 };
 
 // Answers whether each cell holds the digits of its two sides and no other, when the first side
@@ -145,17 +146,16 @@ bool Close(const Grid& grid, Ring& ring, Marks firstSide) {
 
 // What the texts need: the cells and the digits of their sides, both in the order of the ring.
 bool OfferRing(const Grid& grid, const Ring& ring, FindSink& sink) {
-    std::array<CellSet, Ring::kSize> attacked;
-    CellSet losers;
+    CellsByDigit losers;
+    bool hasLosers = false;
     for (std::size_t at = 0; at < Ring::kSize; ++at) {
-        attacked[at] = grid.Candidates(FirstDigit(ring.sides[at])) & Peers(ring.cells[at]) &
-                       Peers(ring.After(at));
-        losers |= attacked[at];
+        const int digit = FirstDigit(ring.sides[at]);
+        const CellSet ends = CellSet::Of(ring.cells[at]) | CellSet::Of(ring.After(at));
+        const CellSet others = CommonPeers(ends) - ring.Cells();
+        losers[static_cast<std::size_t>(digit - 1)] |= others;
+        hasLosers |= (others & grid.Candidates(digit)).Any();
     }
-    for (int cell : ring.cells) {
-        losers.Remove(cell);
-    }
-    if (!losers.Any()) {
+    if (!hasLosers) {
         return true;
     }
     Find find;
@@ -166,14 +166,7 @@ bool OfferRing(const Grid& grid, const Ring& ring, FindSink& sink) {
         find.AddDigit(digit);
         find.AddLink(At(ring.cells[at], digit), At(ring.After(at), digit), Find::Strength::Weak);
     }
-    // Each cell by itself, in their order: what goes differs from cell to cell.
-    for (int cell : losers) {
-        Marks going = 0;
-        for (std::size_t at = 0; at < Ring::kSize; ++at) {
-            going |= attacked[at].Has(cell) ? ring.sides[at] : Marks{0};
-        }
-        find.Remove(grid, CellSet::Of(cell), going);
-    }
+    find.Remove(grid, losers);
     return sink.Offer(find);
 }
 
@@ -184,9 +177,8 @@ bool ShareDigit(const Grid& grid, int one, int other) {
 // The rings on these four cells, by the digit of the first side.
 bool OfferRingsOn(const Grid& grid, const std::array<int, Ring::kSize>& cells, FindSink& sink) {
     Ring ring{cells, {}};
-    Marks shared = grid.MarksAt(cells[0]) & grid.MarksAt(cells[1]);
-    for (; shared != 0; shared &= static_cast<Marks>(shared - 1)) {
-        if (Close(grid, ring, MarkOf(FirstDigit(shared))) && !OfferRing(grid, ring, sink)) {
+    for (int shared : DigitsOf(grid.MarksAt(cells[0]) & grid.MarksAt(cells[1]))) {
+        if (Close(grid, ring, MarkOf(shared)) && !OfferRing(grid, ring, sink)) {
             return false;
         }
     }
