@@ -13,14 +13,6 @@ namespace {
 
 using namespace test;
 
-Digits SolutionWithout(std::string_view cells) {
-    Digits digits = PlainSolution();
-    for (int cell : CellsNamed(cells)) {
-        digits[static_cast<std::size_t>(cell)] = 0;
-    }
-    return digits;
-}
-
 TEST(BruteForce, AnswersNoneOneOrMore) {
     Digits fullClash = PlainSolution();
     fullClash[0] = 2;

@@ -20,14 +20,6 @@ namespace {
 
 using namespace test;
 
-Digits SolutionWithout(std::string_view cells) {
-    Digits digits = PlainSolution();
-    for (int cell : CellsNamed(cells)) {
-        digits[static_cast<std::size_t>(cell)] = 0;
-    }
-    return digits;
-}
-
 bool IsSolutionOf(const Digits& digits, const Digits& clues) {
     bool keepsClues = true;
     for (std::size_t cell = 0; cell < kCells; ++cell) {

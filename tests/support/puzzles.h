@@ -69,6 +69,14 @@ inline CellSet CellsNamed(std::string_view names) {
     }
     return cells;
 }
+// The plain solution with these cells open.
+inline Digits SolutionWithout(std::string_view cells) {
+    Digits digits = PlainSolution();
+    for (int cell : CellsNamed(cells)) {
+        digits[static_cast<std::size_t>(cell)] = 0;
+    }
+    return digits;
+}
 // "129" as a set of digits.
 inline Marks DigitsNamed(std::string_view digits) {
     Marks marks = 0;

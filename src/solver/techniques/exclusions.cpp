@@ -48,19 +48,13 @@ class PairSearch {
         }
     }
 
-    // What the texts need: the two base cells, then those of the excluders.
     Find FindAt(int first, int second) const {
         const Marks atFirst = ExcludedAt(first, second);
         const Marks atSecond = ExcludedAt(second, first);
         const CellSet base = CellSet::Of(first) | CellSet::Of(second);
         const CellSet excluders =
             ExcludersOf(first, atFirst, second) | ExcludersOf(second, atSecond, first);
-        Find find;
-        find.kind = HintKind::PairExclusion;
-        find.AddCells(base);
-        find.AddCells(excluders);
-        find.firstColor = Find::CandidatesOf(grid_, base, kAllMarks);
-        find.secondColor = Find::CandidatesOf(grid_, excluders, kAllMarks);
+        Find find = ExclusionBy(HintKind::PairExclusion, grid_, base, excluders);
         find.Remove(grid_, CellSet::Of(first), atFirst);
         find.Remove(grid_, CellSet::Of(second), atSecond);
         return find;

@@ -85,4 +85,14 @@ void PairTable::Exclude(const std::uint64_t* robbers) {
     });
 }
 
+Find ExclusionBy(HintKind kind, const Grid& grid, CellSet base, CellSet excluders) {
+    Find find;
+    find.kind = kind;
+    find.AddCells(base);
+    find.AddCells(excluders);
+    find.firstColor = Find::CandidatesOf(grid, base, kAllMarks);
+    find.secondColor = Find::CandidatesOf(grid, excluders, kAllMarks);
+    return find;
+}
+
 }  // namespace vemo

@@ -84,4 +84,8 @@ class PairTable {
     BitRows partners_;
 };
 
+// An exclusion as far as its texts need it, without what it removes: its base cells in the one
+// colour, behind them its excluders in the other.
+Find ExclusionBy(HintKind kind, const Grid& grid, CellSet base, CellSet excluders);
+
 }  // namespace vemo

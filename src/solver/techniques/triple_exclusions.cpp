@@ -243,19 +243,13 @@ class TripleSearch {
         return goesOn;
     }
 
-    // What the texts need: the three base cells, then the cells of few candidates that see them.
     Find FindOf(std::span<const Exclusion> triple) const {
         CellSet base;
         for (std::size_t k = 0; k < kBaseCells; ++k) {
             base.Add(triple.front()[k]);
         }
-        const CellSet common = CommonPeers(base) & few_;
-        Find find;
-        find.kind = HintKind::TripleExclusion;
-        find.AddCells(base);
-        find.AddCells(common);
-        find.firstColor = Find::CandidatesOf(grid_, base, kAllMarks);
-        find.secondColor = Find::CandidatesOf(grid_, common, kAllMarks);
+        // Cells of few candidates that see them.
+        Find find = ExclusionBy(HintKind::TripleExclusion, grid_, base, CommonPeers(base) & few_);
         for (std::size_t at = 0; at < triple.size(); ++at) {
             if (at == 0 || triple[at] != triple[at - 1]) {
                 find.Remove(grid_, CellSet::Of(triple[at][3]), MarkOf(triple[at][4]));
