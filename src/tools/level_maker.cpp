@@ -109,7 +109,7 @@ class Sorter {
 
 void Sorter::Fill(const MakerProgress& progress) {
     const int wanted = settings_.count * kLevels;
-    int triesLeft = wanted * settings_.triesPerPuzzle;
+    std::int64_t triesLeft = std::int64_t{wanted} * settings_.triesPerPuzzle;
     bool isDone = false;
     while (!isDone && triesLeft > 0) {
         isDone = true;
