@@ -1,7 +1,7 @@
 // Puzzles made at random for measurements and long checks.
 #pragma once
 
-#include "tools/level_maker.h"
+#include "tools/dig.h"
 #include "tools/random.h"
 
 namespace vemo {

@@ -14,6 +14,8 @@
 
 #include "cli/options.h"
 #include "game/game.h"
+#include "game/view_without_window.h"
+#include "main.h"
 #include "model/files.h"
 #include "platform/memory_settings.h"
 #include "platform/plain_files.h"
@@ -96,25 +98,6 @@ class StillClock final : public Clock {
     int SecondOfDay() override { return 0; }
 };
 
-// Answers every box by its first button, and has no window.
-class NoWindow final : public View {
-  public:
-    Answer ShowBox(const Box&) override { return Answer::Ok; }
-    std::optional<std::string> Ask(const Question&) override { return std::nullopt; }
-    std::optional<std::filesystem::path> AskSaveFile(const SaveQuestion&) override {
-        return std::nullopt;
-    }
-    void OpenForm(Form, Keyboard) override {}
-    void CloseForm(Form) override {}
-    Bytes HintPicture() override { return {}; }
-    void Yield() override {}
-    void Pause(int, const std::function<bool()>&) override {}
-    void Refresh() override {}
-    void Beep() override {}
-    void OpenLink(const std::string&) override {}
-    void Close() override {}
-};
-
 // The game of a new player, every level of which has these puzzles.
 class Player {
   public:
@@ -172,7 +155,7 @@ class Player {
     test::TestFolders folders_{folder_ / "program", folder_ / "data"};
     Silence sounds_;
     StillClock clock_;
-    NoWindow view_;
+    ViewWithoutWindow view_;
     Game game_{{settings_, folders_, files_, sounds_, clock_}, view_};
 };
 
@@ -230,6 +213,8 @@ void Add(const Digits& clues, std::vector<PuzzleRecord>& puzzles) {
     }
 }
 
+}  // namespace
+
 int Main(const std::vector<std::string>& words) {
     static constexpr Option kOptions[] = {{"--seed", "N", ""}, {"--random", "COUNT", ""}};
     const ParsedArguments parsed = ParseArguments(words, kOptions);
@@ -265,9 +250,4 @@ int Main(const std::vector<std::string>& words) {
     return tally.differing == 0 ? 0 : 1;
 }
 
-}  // namespace
 }  // namespace vemo
-
-int main(int count, char** words) {
-    return vemo::Main({words + (count > 0 ? 1 : 0), words + count});
-}

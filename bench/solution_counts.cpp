@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "cli/options.h"
+#include "main.h"
 #include "random_puzzles.h"
 #include "solver/brute_force.h"
 #include "solver/fast_count.h"
@@ -88,6 +89,8 @@ bool Agree(const Digits& clues, test::PlainSearch& plain, int count) {
     return fast.count == count && (count != 1 || std::ranges::equal(fast.first, plain.first));
 }
 
+}  // namespace
+
 int Main(const std::vector<std::string>& words) {
     static constexpr Option kOptions[] = {{"--seed", "N", ""}};
     const ParsedArguments parsed = ParseArguments(words, kOptions);
@@ -116,9 +119,4 @@ int Main(const std::vector<std::string>& words) {
     return wrong == 0 ? 0 : 1;
 }
 
-}  // namespace
 }  // namespace vemo
-
-int main(int count, char** words) {
-    return vemo::Main({words + (count > 0 ? 1 : 0), words + count});
-}

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "cli/options.h"
+#include "main.h"
 #include "puzzle_list.h"
 #include "random_puzzles.h"
 #include "solver/brute_force.h"
@@ -189,6 +190,8 @@ void JudgeRandomPuzzles(std::uint64_t count, Run& run) {
     }
 }
 
+}  // namespace
+
 int Main(const std::vector<std::string>& words) {
     static constexpr Option kOptions[] = {
         {"--seed", "N", ""}, {"--one-in", "N", ""}, {"--random", "COUNT", ""}};
@@ -219,9 +222,4 @@ int Main(const std::vector<std::string>& words) {
     return faults == 0 ? 0 : 1;
 }
 
-}  // namespace
 }  // namespace vemo
-
-int main(int count, char** words) {
-    return vemo::Main({words + (count > 0 ? 1 : 0), words + count});
-}

@@ -14,6 +14,7 @@
 #include <string_view>
 #include <vector>
 
+#include "main.h"
 #include "puzzle_list.h"
 #include "solver/solver.h"
 
@@ -131,6 +132,8 @@ void PrintTable(const std::vector<StepCost>& costs) {
     }
 }
 
+}  // namespace
+
 int Main(const std::vector<std::string>& lists) {
     if (lists.empty()) {
         std::cerr << "LIST is missing\nusage: technique_times LIST...\n";
@@ -155,9 +158,4 @@ int Main(const std::vector<std::string>& lists) {
     return 0;
 }
 
-}  // namespace
 }  // namespace vemo
-
-int main(int count, char** words) {
-    return vemo::Main({words + (count > 0 ? 1 : 0), words + count});
-}

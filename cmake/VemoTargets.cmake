@@ -32,7 +32,7 @@ function(vemo_test name)
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     target_compile_definitions(${name} PRIVATE
-        VEMO_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data" VEMO_ASSETS="${CMAKE_SOURCE_DIR}/assets")
+        VEMO_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data" VEMO_ASSETS="${VEMO_BUILT_ASSETS}")
     foreach(dependency ${ARG_DEPENDS})
         target_link_libraries(${name} PRIVATE vemo_${dependency})
     endforeach()

@@ -3,6 +3,8 @@
 
 #include <span>
 
+#include "model/levels.h"
+#include "solver/catalogue.h"
 #include "solver/text.h"
 
 namespace vemo {
@@ -27,8 +29,8 @@ std::string List(std::span<const CellDigit> effects) {
 
 }  // namespace
 
-std::string_view SolutionCountWord(const BruteForceResult& result) {
-    return result.IsUnique() ? "unique" : result.solutionCount == 0 ? "none" : "multiple";
+std::string_view SolutionCountWord(int count) {
+    return count == 1 ? "unique" : count == 0 ? "none" : "multiple";
 }
 
 std::string EffectLines(const Find& find) {
@@ -38,6 +40,23 @@ std::string EffectLines(const Find& find) {
 void AddEffects(const Find& find, JsonObject& object) {
     object.AddJson("place", List(Items(find.placements)));
     object.AddJson("remove", List(Items(find.removals)));
+}
+
+RatingFields FieldsOf(int level, int hardestSlot, int steps) {
+    const bool hasSlot = hardestSlot != kNoSlot;
+    return {level, LevelName(level),
+            hasSlot ? Slots()[static_cast<std::size_t>(hardestSlot)].caption : "", steps};
+}
+
+std::string RatingText(const std::string& puzzle, const RatingFields& rating) {
+    std::string text = puzzle + '\t' + std::to_string(rating.level) + '\t';
+    text.append(rating.name).append("\t").append(rating.hardest).append("\t");
+    return text.append(std::to_string(rating.steps));
+}
+
+void AddRating(const RatingFields& rating, JsonObject& object) {
+    object.Add("level", rating.level).Add("name", rating.name);
+    object.Add("hardest", rating.hardest).Add("steps", rating.steps);
 }
 
 }  // namespace vemo

@@ -18,7 +18,8 @@ struct CommandResult {
     std::string usageError{};  // names the offending word; goes with ExitCode::Usage
 };
 
-enum class Operands : std::uint8_t { None, OneFile };
+// The usage line of a command with several operands names them itself.
+enum class Operands : std::uint8_t { None, OneFile, Several };
 
 struct Command {
     std::string_view name;
@@ -34,16 +35,25 @@ Command SolveCommand();
 Command RateCommand();
 Command HintCommand();
 Command FindCommand();
+Command CheckCommand();
+Command FilterCommand();
+Command DedupeCommand();
+Command GenerateCommand();
+Command LevelsCommand();
 Command MakeLevelsCommand();
 
-inline std::array<Command, 5> Commands() {
-    return {SolveCommand(), RateCommand(), HintCommand(), FindCommand(), MakeLevelsCommand()};
+inline std::array<Command, 10> Commands() {
+    return {SolveCommand(),  RateCommand(),      HintCommand(),   FindCommand(),
+            CheckCommand(),  FilterCommand(),    DedupeCommand(), GenerateCommand(),
+            LevelsCommand(), MakeLevelsCommand()};
 }
 
 // The options of every command that reads a list of puzzles.
 inline constexpr Option kJsonlOption = {"--jsonl", "",
                                         "write JSON Lines, one object a line of input"};
 inline constexpr Option kQuietOption = {"--quiet", "", "show no progress"};
+inline constexpr Option kThreadsOption = {"--threads", "N",
+                                          "how many threads work (one a core; 1 for a pipe)"};
 
 // How the input is described in their help.
 inline constexpr std::string_view kListNotes =

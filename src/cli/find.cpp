@@ -17,8 +17,8 @@ namespace {
 constexpr Option kTechniqueOption = {"--technique", "TITLE", "the kind of step, by its hint title"};
 constexpr Option kSlotOption = {"--slot", "N", "its slot in the ladder, 3 to 39, or extended-wxyz"};
 constexpr Option kAllOption = {"--all", "", "every find on the position, not only the first"};
-constexpr Option kOptions[] = {kTechniqueOption, kSlotOption, kAllOption, kJsonlOption,
-                               kQuietOption};
+constexpr Option kOptions[] = {kTechniqueOption, kSlotOption,    kAllOption,
+                               kJsonlOption,     kThreadsOption, kQuietOption};
 
 constexpr std::string_view kOutsideTheLadder = "extended-wxyz";
 
@@ -198,14 +198,16 @@ CommandResult RunFind(const Arguments& arguments, Streams& streams) {
     }
     const bool isJson = arguments.Has(kJsonlOption.name);
     const Amount amount = arguments.Has(kAllOption.name) ? Amount::All : Amount::First;
-    return {AnswerEachLine(arguments, streams, [&](const InputLine& line) -> Answer {
-        const PositionLine read = ReadPositionLine(line.text);
-        if (!read.IsPosition()) {
-            return Refusal(read.error);
-        }
-        const std::vector<Find> finds = Search(read.grid, target, amount);
-        return {isJson ? AsJson(line.number, finds) : AsText(finds, amount)};
-    })};
+    return AnswerEachLine(arguments, streams, Working::AtOnce,
+                          [&](const InputLine& line) -> Answer {
+                              const PositionLine read = ReadPositionLine(line.text);
+                              if (!read.IsPosition()) {
+                                  return Refusal(read.error);
+                              }
+                              const std::vector<Find> finds = Search(read.grid, target, amount);
+                              return {isJson ? AsJson(line.number, finds) : AsText(finds, amount)};
+                          });
+    ;
 }
 
 std::string Notes() {
@@ -228,7 +230,7 @@ std::string Notes() {
 Command FindCommand() {
     return {"find",
             Operands::OneFile,
-            "--technique TITLE|--slot N [--all] [--jsonl] [--quiet]",
+            "--technique TITLE|--slot N [--all] [--threads N] [--jsonl] [--quiet]",
             "Finds one kind of step alone on each position",
             kOptions,
             Notes,

@@ -9,7 +9,7 @@
 namespace vemo {
 namespace {
 
-constexpr Option kOptions[] = {kJsonlOption, kQuietOption};
+constexpr Option kOptions[] = {kJsonlOption, kThreadsOption, kQuietOption};
 
 std::string Notes() {
     return "A block a position, with a blank line behind it: the title of the hint, its text,\n"
@@ -35,18 +35,21 @@ std::string AsJson(long number, std::string_view title, std::string_view text, c
 CommandResult Hint(const Arguments& arguments, Streams& streams) {
     const bool isJson = arguments.Has(kJsonlOption.name);
     const Ladder ladder = HintLadder(TechniqueSettings());
-    return {AnswerEachLine(arguments, streams, [&](const InputLine& line) -> Answer {
-        const PositionLine read = ReadPositionLine(line.text);
-        if (!read.IsPosition()) {
-            return Refusal(read.error);
-        }
-        Solver solver(read.grid);
-        if (solver.Pass(ladder) != PassResult::Hint) {
-            return {isJson ? AsJson(line.number, "", "", Find()) : std::string(kNoFind)};
-        }
-        const Find& find = solver.LastFind();
-        return {isJson ? AsJson(line.number, HintTitle(find), HintText(find), find) : AsText(find)};
-    })};
+    return AnswerEachLine(
+        arguments, streams, Working::AtOnce, [&](const InputLine& line) -> Answer {
+            const PositionLine read = ReadPositionLine(line.text);
+            if (!read.IsPosition()) {
+                return Refusal(read.error);
+            }
+            Solver solver(read.grid);
+            if (solver.Pass(ladder) != PassResult::Hint) {
+                return {isJson ? AsJson(line.number, "", "", Find()) : std::string(kNoFind)};
+            }
+            const Find& find = solver.LastFind();
+            return {isJson ? AsJson(line.number, HintTitle(find), HintText(find), find)
+                           : AsText(find)};
+        });
+    ;
 }
 
 }  // namespace
@@ -54,7 +57,7 @@ CommandResult Hint(const Arguments& arguments, Streams& streams) {
 Command HintCommand() {
     return {"hint",
             Operands::OneFile,
-            "[--jsonl] [--quiet]",
+            "[--threads N] [--jsonl] [--quiet]",
             "Finds the next logical step of each position and explains it",
             kOptions,
             Notes,

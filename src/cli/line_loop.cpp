@@ -1,123 +1,138 @@
 // The one loop over a list of puzzles.
 #include "cli/line_loop.h"
 
-#include <array>
-#include <cerrno>
-#include <fstream>
-#include <ios>
-#include <limits>
+#include <utility>
+#include <vector>
 
-#include "cli/commands.h"
+#include "cli/line_source.h"
 #include "cli/progress.h"
+#include "cli/resume.h"
+#include "tools/ordered_work.h"
 #include "tools/puzzle_line.h"
 
 namespace vemo {
 namespace {
 
-// A position with all its marks has 973 characters.
-constexpr std::size_t kLongestLine = 4096;
+// Enough that handing them over does not count, few enough that all threads have some.
+constexpr std::size_t kLinesAtOnce = 32;
 
-// Takes lines from a stream, the longest only as far as its buffer reaches.
-class LineReader {
-  public:
-    explicit LineReader(std::istream& in) : in_(in) {}
+using AnswerToLine = std::function<Answer(const InputLine&)>;
 
-    // False at the end of the input, and where it cannot be read on.
-    bool Next();
-    bool IsTooLong() const { return isTooLong_; }
-    InputLine Line() const { return {number_, {buffer_.data(), length_}}; }
-
-  private:
-    std::istream& in_;
-    std::array<char, kLongestLine + 1> buffer_;
-    std::size_t length_ = 0;
-    long number_ = 0;
-    bool isTooLong_ = false;
+struct NumberedAnswer {
+    long number = 0;
+    Answer answer;
 };
+using Answers = std::vector<NumberedAnswer>;
 
-bool LineReader::Next() {
-    errno = 0;
-    in_.getline(buffer_.data(), static_cast<std::streamsize>(buffer_.size()));
-    const std::streamsize taken = in_.gcount();
-    if (in_.bad() || (in_.eof() && taken == 0)) {
-        return false;
+Answers AnswersTo(const Lines& lines, const AnswerToLine& answer) {
+    Answers answers;
+    for (const Line& line : lines) {
+        answers.push_back(
+            {line.number,
+             line.isTooLong ? Refusal("longer than " + std::to_string(kLongestLine) + " characters")
+                            : answer({line.number, line.text})});
     }
-    ++number_;
-    isTooLong_ = in_.fail();
-    // A line end is counted, but not kept.
-    const bool hasEnd = !in_.eof() && !isTooLong_;
-    length_ = static_cast<std::size_t>(taken) - (hasEnd ? 1 : 0);
-    if (isTooLong_) {
-        in_.clear();
-        in_.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
-    }
-    return true;
+    return answers;
 }
 
 class Loop {
   public:
-    Loop(std::istream& in, Streams& streams, bool showsProgress)
-        : in_(in), reader_(in), streams_(streams), progress_(streams.err, showsProgress) {}
+    Loop(LineSource& source, Streams& streams, bool showsProgress)
+        : source_(source), streams_(streams), progress_(streams.err, showsProgress) {}
 
-    ExitCode Run(const std::string& name, const std::function<Answer(const InputLine&)>& answer);
+    // Passes over the lines that have their rows; the next Run begins behind them.
+    bool PassOver(Resume& resume);
+
+    ExitCode Run(int threads, const AnswerToLine& answer);
 
   private:
-    bool Give(const Answer& answer);
+    bool Give(const Answers& answers);
 
-    std::istream& in_;
-    LineReader reader_;
+    LineSource& source_;
     Streams& streams_;
     Progress progress_;
+    std::optional<Lines> behindRows_;
     ExitCode code_ = ExitCode::Fine;
 };
 
-ExitCode Loop::Run(const std::string& name, const std::function<Answer(const InputLine&)>& answer) {
-    while (reader_.Next()) {
-        const InputLine line = reader_.Line();
-        if (reader_.IsTooLong()) {
-            Give(Refusal("longer than " + std::to_string(kLongestLine) + " characters"));
-        } else if (!IsBlankOrComment(line.text) && !Give(answer(line))) {
-            return ExitCode::InputOutput;
-        }
-        if (progress_.IsDue()) {
-            progress_.Show(std::to_string(line.number) + " lines");
+bool Loop::PassOver(Resume& resume) {
+    while (auto lines = source_.Next(1)) {
+        const PuzzleLine read = ReadPuzzleLine(lines->front().text);
+        if (read.IsPuzzle() && !resume.Has(WriteGrid81(read.clues))) {
+            behindRows_ = std::move(lines);
+            break;
         }
     }
-    progress_.Clear();
-    if (in_.bad()) {
-        Tell(streams_, name + " cannot be read" + SystemReason());
-        return ExitCode::InputOutput;
+    if (!resume.Error().empty()) {
+        Tell(streams_, resume.Error());
     }
-    return code_;
+    return resume.Error().empty();
 }
 
-bool Loop::Give(const Answer& answer) {
-    if (answer.isFaulty) {
-        code_ = ExitCode::FaultyLine;
+ExitCode Loop::Run(int threads, const AnswerToLine& answer) {
+    bool isWritten = true;
+    OrderedWork<Lines, Answers> work;
+    work.next = [&] {
+        return behindRows_ ? std::exchange(behindRows_, std::nullopt)
+                           : source_.Next(threads > 1 ? kLinesAtOnce : 1);
+    };
+    work.work = [&](const Lines& lines, const std::stop_token&) {
+        return AnswersTo(lines, answer);
+    };
+    work.give = [&](const Lines&, Answers&& answers) {
+        isWritten = Give(answers);
+        return isWritten && !streams_.isInterrupted();
+    };
+    RunInOrder(threads, work);
+    progress_.Clear();
+    if (!source_.IsFine() || !isWritten) {
+        return ExitCode::InputOutput;
     }
-    if (!answer.message.empty()) {
-        progress_.Clear();
-        Tell(streams_, "line " + std::to_string(reader_.Line().number) + ": " + answer.message);
+    return streams_.isInterrupted() ? ExitCode::Interrupted : code_;
+}
+
+bool Loop::Give(const Answers& answers) {
+    std::string text;
+    for (const auto& [number, answer] : answers) {
+        if (answer.isFaulty) {
+            code_ = ExitCode::FaultyLine;
+        }
+        if (!answer.message.empty()) {
+            progress_.Clear();
+            Tell(streams_, "line " + std::to_string(number) + ": " + answer.message);
+        }
+        text += answer.text;
     }
-    return answer.text.empty() || WriteResult(streams_, answer.text);
+    if (progress_.IsDue()) {
+        progress_.Show(std::to_string(answers.back().number) + " lines");
+    }
+    return text.empty() || WriteResult(streams_, text);
 }
 
 }  // namespace
 
-ExitCode AnswerEachLine(const Arguments& arguments, Streams& streams,
-                        const std::function<Answer(const InputLine&)>& answer) {
+CommandResult AnswerEachLine(const Arguments& arguments, Streams& streams, Working working,
+                             const std::function<Answer(const InputLine&)>& answer) {
+    LineSource source(arguments.operands.front(), streams);
+    std::string error;
+    const std::optional<int> threads = source.Threads(arguments, error);
+    if (!threads) {
+        return UsageError(error);
+    }
+    if (!source.IsOpen()) {
+        return {ExitCode::InputOutput};
+    }
     const bool showsProgress = streams.showsProgress && !arguments.Has(kQuietOption.name);
-    const std::string& name = arguments.operands.front();
-    if (name == "-") {
-        return Loop(streams.in, streams, showsProgress).Run("standard input", answer);
+    const int used = working == Working::AtOnce ? *threads : 1;
+    const auto results = arguments.ValueOf(kResumeOption.name);
+    if (!results) {
+        return {Loop(source, streams, showsProgress).Run(used, answer)};
     }
-    errno = 0;
-    std::ifstream file(name, std::ios::binary);
-    if (!file) {
-        Tell(streams, name + " cannot be opened" + SystemReason());
-        return ExitCode::InputOutput;
-    }
-    return Loop(file, streams, showsProgress).Run(name, answer);
+    Resume resume{std::string(*results)};
+    Streams intoFile{streams.in, resume.Out(), streams.err, streams.showsProgress,
+                     streams.isInterrupted};
+    Loop loop(source, intoFile, showsProgress);
+    return {loop.PassOver(resume) ? loop.Run(used, answer) : ExitCode::InputOutput};
 }
 
 }  // namespace vemo

@@ -1,12 +1,13 @@
 // The one loop over a list of puzzles that all reading commands share.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
-#include "cli/options.h"
-#include "cli/streams.h"
+#include "cli/commands.h"
 
 namespace vemo {
 
@@ -27,10 +28,15 @@ inline Answer Refusal(std::string error) {
     return {"", std::move(error), true};
 }
 
-// Reads the file that the operand names, "-" for standard input, and answers its lines in order,
-// blank lines and comments left out. Each answer is flushed before the next line is read. No line
-// is held that is longer than a position can be.
-ExitCode AnswerEachLine(const Arguments& arguments, Streams& streams,
-                        const std::function<Answer(const InputLine&)>& answer);
+// Whether answers may be made by several threads, as --threads says; else each is made by the
+// caller's, in the order of the lines.
+enum class Working : std::uint8_t { AtOnce, InTurn };
+
+// Reads the file that the operand names, "-" for standard input, and gives the answers to its lines
+// in order, blank lines and comments left out. An interrupt ends the run between two lines. With
+// one thread each answer is flushed before the next line is read; with more, lines are read ahead.
+// No line is held that is longer than a position can be.
+CommandResult AnswerEachLine(const Arguments& arguments, Streams& streams, Working working,
+                             const std::function<Answer(const InputLine&)>& answer);
 
 }  // namespace vemo

@@ -9,7 +9,9 @@
 int main(int count, char** values) {
     std::ios::sync_with_stdio(false);
     vemo::ReportClosedPipes();
+    vemo::WatchForInterrupts();
     const std::vector<std::string> words(values + (count > 0 ? 1 : 0), values + count);
-    vemo::Streams streams{std::cin, std::cout, std::cerr, vemo::CanShowProgress()};
+    vemo::Streams streams{std::cin, std::cout, std::cerr, vemo::CanShowProgress(),
+                          vemo::IsInterrupted};
     return static_cast<int>(vemo::RunProgram(words, streams));
 }

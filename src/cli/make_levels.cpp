@@ -1,36 +1,46 @@
 // vemosud make-levels: the level files of the game, and a list of puzzles for tests.
+#include <algorithm>
 #include <filesystem>
 #include <span>
 #include <system_error>
 
 #include "cli/commands.h"
+#include "cli/level_counts.h"
 #include "cli/progress.h"
 #include "model/files.h"
 #include "platform/plain_files.h"
+#include "tools/generator.h"
 #include "tools/level_maker.h"
 #include "tools/puzzle_line.h"
+#include "tools/threads.h"
 
 namespace vemo {
 namespace {
 
+constexpr std::string_view kShippedCounts =
+    "Easy:1000,Medium:1000,Hard:1000,Crazy:1000,Insane:1000,Kamikaze:1000,Extreme:1000,"
+    "Mayhem:500,Outlaw:220";
+
 constexpr Option kOutputOption = {"--output", "DIR", "write nine level files into this folder"};
+constexpr Option kLevelsOption = {"--levels", "LIST", "puzzles a level (as shipped)"};
 constexpr Option kSeedOption = {"--seed", "N", "where the random numbers begin (1)"};
-constexpr Option kCountOption = {"--count", "N", "puzzles a level (60)"};
-constexpr Option kTriesOption = {"--tries", "N", "puzzles tried for one that is kept (500)"};
+constexpr Option kTriesOption = {"--tries", "N", "puzzles tried before it gives up (1000000000)"};
 constexpr Option kCorpusOption = {"--corpus", "FILE", "write a list of mixed puzzles to this file"};
 constexpr Option kCorpusCountOption = {"--corpus-count", "N", "puzzles of that list (400)"};
-constexpr Option kOptions[] = {kOutputOption, kSeedOption,        kCountOption, kTriesOption,
-                               kCorpusOption, kCorpusCountOption, kQuietOption};
+constexpr Option kOptions[] = {kOutputOption, kLevelsOption,      kSeedOption,    kTriesOption,
+                               kCorpusOption, kCorpusCountOption, kThreadsOption, kQuietOption};
 
 constexpr std::uint64_t kMostPuzzles = 100'000;
-constexpr std::uint64_t kMostTries = 10'000;
 
 std::string Notes() {
     return "Writes Sudoku_Easy.sds to Sudoku_Outlaw.sds, or a list of puzzles, one a line,\n"
-           "or both. Every puzzle has exactly one solution. The same numbers make the same\n"
-           "files. Where the puzzles of a level are too rare for so many tries, its file\n"
-           "stays short. A folder with a player's progress in it is left alone. Tells of each\n"
-           "file that it wrote the name TAB the number of puzzles.\n";
+           "or both. Every puzzle has exactly one solution. The same options make the same\n"
+           "files, with any number of threads; without --levels and with --seed 2026 those of\n"
+           "the game, in about half an hour. Where the puzzles of a level are too rare for so\n"
+           "many tries, its file stays short. A folder with a player's progress in it is left\n"
+           "alone. Tells of each file that it wrote the name TAB the number of puzzles.\n"
+           "\n" +
+           std::string(kLevelCountsNotes);
 }
 
 struct Order {
@@ -38,45 +48,30 @@ struct Order {
     int corpusCount = 400;
 };
 
-// Reads an option's number, where the option is given; a message where it is none.
-template <typename Number>
-std::string ReadNumberOf(const Arguments& arguments, const Option& option, std::uint64_t least,
-                         std::uint64_t most, Number& number) {
-    const auto text = arguments.ValueOf(option.name);
-    if (!text) {
-        return "";
-    }
-    const auto read = WholeNumber(*text, least, most);
-    if (!read) {
-        return std::string(option.name) + " is a number from " + std::to_string(least) + " to " +
-               std::to_string(most) + ": " + std::string(*text);
-    }
-    number = static_cast<Number>(*read);
-    return "";
-}
-
 std::string ReadOrder(const Arguments& arguments, Order& order) {
     const auto has = [&](const Option& option) { return arguments.Has(option.name); };
     if (!has(kOutputOption) && !has(kCorpusOption)) {
         return "--output DIR or --corpus FILE is missing";
     }
-    if ((has(kCountOption) || has(kTriesOption)) && !has(kOutputOption)) {
-        return "--count and --tries go with --output";
+    if ((has(kLevelsOption) || has(kTriesOption) || has(kThreadsOption)) && !has(kOutputOption)) {
+        return "--levels, --tries and --threads go with --output";
     }
     if (has(kCorpusCountOption) && !has(kCorpusOption)) {
         return "--corpus-count goes with --corpus";
     }
-    std::string error =
-        ReadNumberOf(arguments, kSeedOption, 0, ~std::uint64_t{0}, order.levels.seed);
-    if (error.empty()) {
-        error = ReadNumberOf(arguments, kCountOption, 1, kMostPuzzles, order.levels.count);
-    }
-    if (error.empty()) {
-        error = ReadNumberOf(arguments, kTriesOption, 1, kMostTries, order.levels.triesPerPuzzle);
-    }
-    if (error.empty()) {
-        error = ReadNumberOf(arguments, kCorpusCountOption, 1, kMostPuzzles, order.corpusCount);
-    }
+    const ReadLevelCounts read =
+        ParseLevelCounts(arguments.ValueOf(kLevelsOption.name).value_or(kShippedCounts));
+    std::copy(read.counts.begin() + 1, read.counts.end(), order.levels.counts.begin());
+    order.levels.threads = DefaultThreads();
+    std::string error = read.error.empty() ? "" : "--levels: " + read.error;
+    const auto readNumber = [&](const Option& option, std::uint64_t least, std::uint64_t most,
+                                auto& number) {
+        error = error.empty() ? ReadNumberOf(arguments, option, least, most, number) : error;
+    };
+    readNumber(kSeedOption, 0, ~std::uint64_t{0}, order.levels.seed);
+    readNumber(kTriesOption, 1, kMostTries, order.levels.mostTries);
+    readNumber(kCorpusCountOption, 1, kMostPuzzles, order.corpusCount);
+    readNumber(kThreadsOption, 1, kMostThreads, order.levels.threads);
     return error;
 }
 
@@ -135,7 +130,8 @@ ExitCode WriteLevels(Streams& streams, Progress& progress, const Order& order,
     progress.Clear();
     for (int level = 1; level <= kLevels; ++level) {
         const auto& puzzles = levels[static_cast<std::size_t>(level) - 1];
-        if (puzzles.size() < static_cast<std::size_t>(order.levels.count)) {
+        const int wanted = order.levels.counts[static_cast<std::size_t>(level) - 1];
+        if (puzzles.size() < static_cast<std::size_t>(wanted)) {
             Tell(streams, "level " + std::string(LevelName(level)) +
                               " stays short: " + std::to_string(puzzles.size()) + " puzzles");
         }
@@ -199,8 +195,8 @@ CommandResult RunMakeLevels(const Arguments& arguments, Streams& streams) {
 Command MakeLevelsCommand() {
     return {"make-levels",
             Operands::None,
-            "[--output DIR [--count N] [--tries N]] [--corpus FILE [--corpus-count N]] [--seed N] "
-            "[--quiet]",
+            "[--output DIR [--levels LIST] [--tries N] [--threads N]]\n"
+            "      [--corpus FILE [--corpus-count N]] [--seed N] [--quiet]",
             "Makes the level files of the game, or a list of puzzles",
             kOptions,
             Notes,

@@ -39,4 +39,18 @@ ParsedArguments ParseArguments(std::span<const std::string> words, std::span<con
 std::optional<std::uint64_t> WholeNumber(std::string_view text, std::uint64_t least,
                                          std::uint64_t most);
 
+// Reads an option's number, where the option is given; answers a message where it is none.
+template <typename Number>
+std::string ReadNumberOf(const Arguments& arguments, const Option& option, std::uint64_t least,
+                         std::uint64_t most, Number& number) {
+    const auto text = arguments.ValueOf(option.name);
+    const auto read = WholeNumber(text.value_or("0"), text ? least : 0, most);
+    if (!read) {
+        return std::string(option.name) + " is a number from " + std::to_string(least) + " to " +
+               std::to_string(most) + ": " + std::string(*text);
+    }
+    number = text ? static_cast<Number>(*read) : number;
+    return "";
+}
+
 }  // namespace vemo

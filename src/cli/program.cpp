@@ -1,64 +1,15 @@
-// The program vemosud: its dispatch and its help.
+// The program vemosud: its dispatch.
 #include "cli/program.h"
 
 #include <algorithm>
 
 #include "cli/commands.h"
+#include "cli/help.h"
 
 namespace vemo {
 namespace {
 
 constexpr std::string_view kVersionText = "vemosud " VEMO_VERSION "\n";
-
-constexpr Option kHelpOption = {"--help", "", "show this help"};
-
-constexpr std::string_view kExitCodes =
-    "\n"
-    "Exit codes: 0 fine, 1 some line was no puzzle or had no or several solutions,\n"
-    "2 wrong usage, 3 input or output failed.\n";
-
-void AddRow(std::string& text, const std::string& name, std::string_view help) {
-    constexpr std::size_t kNameWidth = 22;
-    text += "  " + name + std::string(kNameWidth - std::min(kNameWidth - 2, name.size()), ' ');
-    text.append(help) += '\n';
-}
-
-std::string UsageLine(const Command& command) {
-    std::string text = "vemosud ";
-    text.append(command.name).append(" ").append(command.usage);
-    return text + (command.operands == Operands::OneFile ? " FILE\n" : "\n");
-}
-
-std::string ProgramHelp() {
-    std::string text =
-        "Solves and rates Sudoku puzzles, and finds the next logical step.\n\n"
-        "Usage:\n";
-    for (const Command& command : Commands()) {
-        text += "  " + UsageLine(command);
-    }
-    text += "\nCommands:\n";
-    for (const Command& command : Commands()) {
-        AddRow(text, std::string(command.name), command.summary);
-    }
-    text += "\nOptions:\n";
-    AddRow(text, "--help", "show this help; behind a command, the command's");
-    AddRow(text, "--version", "show the version");
-    return text.append(kExitCodes);
-}
-
-std::string CommandHelp(const Command& command) {
-    std::string text = "Usage: " + UsageLine(command) + '\n';
-    text.append(command.summary).append(".\n\n").append(command.notes()) += "\nOptions:\n";
-    for (const Option& option : command.options) {
-        std::string name(option.name);
-        if (!option.placeholder.empty()) {
-            name.append(" ").append(option.placeholder);
-        }
-        AddRow(text, name, option.help);
-    }
-    AddRow(text, std::string(kHelpOption.name), kHelpOption.help);
-    return text.append(kExitCodes);
-}
 
 ExitCode Show(Streams& streams, std::string_view text) {
     return WriteResult(streams, text) ? ExitCode::Fine : ExitCode::InputOutput;
@@ -75,6 +26,9 @@ bool IsHelp(const std::string& word) {
 
 // What is wrong with the number of operands; empty where it is right.
 std::string OperandError(const Command& command, const std::vector<std::string>& operands) {
+    if (command.operands == Operands::Several) {
+        return "";  // the command looks at them itself
+    }
     const std::size_t wanted = command.operands == Operands::OneFile ? 1 : 0;
     if (operands.size() > wanted) {
         return "unexpected word " + operands[wanted];
@@ -113,6 +67,12 @@ ExitCode RunProgram(std::span<const std::string> words, Streams& streams) {
     }
     if (first == "--version") {
         return Show(streams, kVersionText);
+    }
+    if (first == "--man") {
+        return Show(streams, ManPage());
+    }
+    if (first == "--bash-completion") {
+        return Show(streams, BashCompletion());
     }
     const auto commands = Commands();
     const auto command = std::ranges::find(commands, first, &Command::name);

@@ -14,6 +14,7 @@ enum class ExitCode : int {
     FaultyLine = 1,  // some line was no puzzle, or had no or several solutions
     Usage = 2,
     InputOutput = 3,
+    Interrupted = 130,  // by the user; what was finished is written
 };
 
 struct Streams {
@@ -21,6 +22,8 @@ struct Streams {
     std::ostream& out;  // results alone
     std::ostream& err;  // messages and progress
     bool showsProgress = false;
+    // Whether the user asked the program to end.
+    bool (*isInterrupted)() = [] { return false; };
 };
 
 // One message: "vemosud: <text>" on a line of its own.

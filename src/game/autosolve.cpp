@@ -59,8 +59,7 @@ void ShowAsHint(Stage& stage, const Find& find) {
 
 // The step that Stop kept from being taken. Trials are left out: Stop acts at once.
 void ShowNextStep(Stage& stage) {
-    Ladder ladder = HintLadder(stage.techniques);
-    std::erase_if(ladder, [](const LadderStep& at) { return at.step->trial != nullptr; });
+    const Ladder ladder = WithoutTrials(HintLadder(stage.techniques));
     Solver solver = BoardSolver(stage);
     PassResult result = PassResult::Nothing;
     {

@@ -225,18 +225,33 @@ void ApplyHint(Stage& stage) {
     EndStep(stage, find.placements.Empty() ? Sound::Discard : Sound::Assign);
 }
 
+bool MayUndo(const Session& session) {
+    return session.IsBoardOn() && !session.IsBrushOrLinkMode() && session.history.CanUndo();
+}
+
 void UndoStep(Stage& stage) {
     Session& session = stage.session;
-    if (session.IsBoardOn() && !session.IsBrushOrLinkMode() && session.history.Undo(session.grid)) {
+    if (MayUndo(session)) {
+        session.history.Undo(session.grid);
         EndStep(stage, Sound::UndoRedo);
     }
 }
 
+bool MayRedo(const Session& session) {
+    return session.IsBoardOn() && !session.IsBrushOrLinkMode() && session.history.CanRedo();
+}
+
 void RedoStep(Stage& stage) {
     Session& session = stage.session;
-    if (session.IsBoardOn() && !session.IsBrushOrLinkMode() && session.history.Redo(session.grid)) {
+    if (MayRedo(session)) {
+        session.history.Redo(session.grid);
         EndStep(stage, Sound::UndoRedo);
     }
+}
+
+bool MayResetCell(const Session& session) {
+    return session.IsBoardOn() && session.selectedCell != kNoCell &&
+           !session.grid.IsGiven(session.selectedCell);
 }
 
 void ResetCell(Stage& stage) {
@@ -245,10 +260,10 @@ void ResetCell(Stage& stage) {
         EmptyClue(stage);
         return;
     }
-    const int cell = session.selectedCell;
-    if (!session.IsBoardOn() || cell == kNoCell || session.grid.IsGiven(cell)) {
+    if (!MayResetCell(session)) {
         return;
     }
+    const int cell = session.selectedCell;
     if (session.grid.Digit(cell) == 0) {
         GiveBack(stage, cell, LegalMarks(session.grid, cell));
         return;
@@ -257,9 +272,13 @@ void ResetCell(Stage& stage) {
     EndStep(stage, Sound::ResetCell);
 }
 
+bool MayRestart(const Session& session) {
+    return session.IsBoardOn() || session.phase == PlayPhase::SolutionShown;
+}
+
 void Restart(Stage& stage) {
     Session& session = stage.session;
-    if (session.phase != PlayPhase::SolutionShown && !session.IsBoardOn()) {
+    if (!MayRestart(session)) {
         return;
     }
     session.phase = PlayPhase::Playing;

@@ -32,11 +32,15 @@ void MoveSelectionBy(Stage& stage, Direction direction, Jump jump);
 
 // Carries out the hint on display as one undoable step; it charges nothing more.
 void ApplyHint(Stage& stage);
+bool MayUndo(const Session& session);
 void UndoStep(Stage& stage);
+bool MayRedo(const Session& session);
 void RedoStep(Stage& stage);
-// The selected cell: its digit off, or all its legal marks back.
+// The selected cell: its digit off, or all its legal marks back. Takes a clue off while making.
+bool MayResetCell(const Session& session);
 void ResetCell(Stage& stage);
 // The puzzle as it was loaded, as a new game.
+bool MayRestart(const Session& session);
 void Restart(Stage& stage);
 // Shows all digits. The puzzle counts as played by the program from here on.
 void ShowSolution(Stage& stage);

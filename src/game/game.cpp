@@ -43,6 +43,12 @@ void Game::Flip(bool Options::*option) {
     Handle([&](Stage& stage) { FlipOption(stage, option); });
 }
 
+template <typename Event>
+void Game::HandleGenerator(Event event) {
+    event(stage_.generator);
+    Show();
+}
+
 void Game::FormLoad() {
     Handle([](Stage& stage) { StartUp(stage); });
 }
@@ -193,6 +199,10 @@ void Game::mnuSudokuValidate() {
     Handle(ValidateSudoku);
 }
 
+void Game::mnuSudokuGenerator() {
+    OpenGenerator(stage_);
+}
+
 void Game::mnuSudokuExit() {
     if (FormQueryUnload()) {
         stage_.view.Close();
@@ -302,6 +312,10 @@ void Game::mnuHelpWeb() {
     Handle([](Stage& stage) { stage.view.OpenLink(kWebAddress); });
 }
 
+bool Game::FormQueryUnload(Form form) {
+    return form != Form::FormGenerator || MayCloseGenerator(stage_);
+}
+
 void Game::FormUnload(Form form) {
     switch (form) {
     case Form::FormHint:
@@ -310,6 +324,9 @@ void Game::FormUnload(Form form) {
     case Form::SolveTech:
         WriteTechniqueSettings(stage_.settings, stage_.techniques);
         stage_.settings.Flush();
+        break;
+    case Form::FormGenerator:
+        WriteGeneratorOrder(stage_.settings, stage_.generator.Order());
         break;
     case Form::FormLog:
         break;
@@ -355,6 +372,35 @@ void Game::CommandDefaultsClick() {
 
 void Game::CommandOK() {
     stage_.view.CloseForm(Form::SolveTech);
+}
+
+void Game::GeneratorChange(const GeneratorOrder& order) {
+    HandleGenerator([&](GeneratorWindow& window) { window.Change(order); });
+}
+
+void Game::CommandStart() {
+    HandleGenerator([](GeneratorWindow& window) { window.Start(); });
+}
+
+void Game::CommandStopSearch() {
+    HandleGenerator([](GeneratorWindow& window) { window.Cancel(); });
+}
+
+void Game::CommandStore() {
+    HandleGenerator([](GeneratorWindow& window) { window.Store(); });
+}
+
+void Game::GeneratorSelect(int row) {
+    HandleGenerator([&](GeneratorWindow& window) { window.Select(row); });
+}
+
+void Game::CommandPlay() {
+    Handle(PlayMadeSudoku);
+}
+
+void Game::GeneratorTick() {
+    TickGenerator(stage_);
+    Show();
 }
 
 }  // namespace vemo

@@ -21,11 +21,13 @@ class Game {
     const Options& CurrentOptions() const { return stage_.options; }
     const Colors& CurrentColors() const { return stage_.colors; }
     const Session& CurrentSession() const { return stage_.session; }
-    // The other windows: the hint window, the solve log's text, which only ever grows, and the
-    // technique manager, which is off while the game is busy.
+    // The other windows: the hint window, the solve log's text, which only ever grows, the
+    // technique manager, which is off while the game is busy, and the generator.
     const HintWindow& CurrentHintWindow() const { return hintWindow_; }
     const std::string& SolveLogText() const { return stage_.log.Text(); }
     const SolveTech& TechniqueManager() const { return stage_.solveTech; }
+    const GeneratorWindow& CurrentGenerator() const { return stage_.generator; }
+    std::string WhyNotPlay() const { return vemo::WhyNotPlay(stage_); }
 
     // The window.
     void FormLoad();
@@ -69,6 +71,7 @@ class Game {
     void mnuSudokuSave();
     void mnuSudokuMake();
     void mnuSudokuValidate();
+    void mnuSudokuGenerator();
     void mnuSudokuExit();
     void mnuLevelNr(int level);
     void mnuSolveRestart();
@@ -96,8 +99,9 @@ class Game {
     void mnuAppearance(Appearance appearance);
     void mnuHelpWeb();
 
-    // The other windows: closed, by whatever means; the hint window's menu; the log's Save; the
-    // technique manager's boxes, option buttons and buttons.
+    // The other windows: about to close, and closed, by whatever means; the hint window's menu; the
+    // log's Save; the technique manager's boxes, option buttons and buttons.
+    bool FormQueryUnload(Form form);  // answers whether it may close
     void FormUnload(Form form);
     void mnuWindowRefresh();
     void mnuWindowsSave();
@@ -110,12 +114,24 @@ class Game {
     void CommandDefaultsClick();
     void CommandOK();
 
+    // The generator. It lives beside the game's long functions: only Play waits for their end.
+    void GeneratorChange(const GeneratorOrder& order);  // any of the controls for the order
+    void CommandStart();
+    void CommandStopSearch();
+    void CommandStore();
+    void GeneratorSelect(int row);
+    void CommandPlay();    // and a double-click on a row
+    void GeneratorTick();  // a few times a second while it searches
+
   private:
     // Runs one event unless a long function bars it, then shows the screen anew.
     template <typename Event>
     void Handle(Event event);
     // An option that only the screen follows.
     void Flip(bool Options::*option);
+    // Runs one event of the generator.
+    template <typename Event>
+    void HandleGenerator(Event event);
     void Show();
 
     Stage stage_;

@@ -96,7 +96,7 @@ Saving SavePicture(Stage& stage, const fs::path& path, const Bytes& picture) {
     }
     const std::string question =
         "The file " + Utf8(path) + " exists already. Do you want to replace it ?";
-    if (Exists(path) && !AskYesNo(stage, kSaveTitle, question)) {
+    if (Exists(path) && !AskYesNo(stage, kSaveTitle, question, EnterKey::No)) {
         return {std::nullopt, true};
     }
     return {stage.anyFiles.Replace(path, picture)};

@@ -8,6 +8,7 @@
 #include "game/play_levels.h"
 #include "solver/brute_force.h"
 #include "solver/solver.h"
+#include "tools/dig.h"
 #include "tools/formats.h"
 #include "tools/puzzle_line.h"
 
@@ -15,7 +16,6 @@ namespace vemo {
 namespace {
 
 constexpr int kFewestDigits = 8;
-constexpr int kFewestClues = 17;
 constexpr int kMostEmptyLines = 1;  // in a band or stack
 constexpr int kMostEmptyBoxes = 4;
 
@@ -167,7 +167,7 @@ void Discard(Stage& stage) {
 }
 
 void OfferToAbort(Stage& stage, const char* title, const char* text) {
-    if (AskYesNo(stage, title, text)) {
+    if (AskYesNo(stage, title, text, EnterKey::No)) {
         Discard(stage);
     }
 }

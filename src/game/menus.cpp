@@ -5,6 +5,7 @@
 #include <cassert>
 
 #include "game/autosolve.h"
+#include "game/entry.h"
 #include "game/game.h"
 #include "game/play_levels.h"
 #include "model/levels.h"
@@ -50,7 +51,7 @@ constexpr MenuRow kRows[] = {
     {SudokuMake, kSudoku, "", "&Make", "", Kind::Command, kBegins, "", Call<&Game::mnuSudokuMake>},
     {SudokuValidate, kSudoku, "", "&Validate", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSudokuValidate>},
     {SudokuCheck, kSudoku, "", "&Check and Import...", "", Kind::Command, kBegins, kNotYet, nullptr},
-    {SudokuGenerator, kSudoku, "", "&Generator...", "", Kind::Command, kGoesOn, kNotYet, nullptr},
+    {SudokuGenerator, kSudoku, "", "&Generator...", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSudokuGenerator>},
     {SudokuPrint, kSudoku, "", "&Print...", "Ctrl+P", Kind::Command, kBegins, kNotYet, nullptr},
     {SudokuExit, kSudoku, "", "E&xit", "Ctrl+Q", Kind::Command, kBegins, "", Call<&Game::mnuSudokuExit>},
     {Level1, kLevel, "", "&Easy", "", Kind::Radio, kGoesOn, "", ChooseLevelEntry<1>},
@@ -173,14 +174,13 @@ bool IsAvailable(CommandId id, const Stage& stage) {
     case SudokuSave:
         return WhySaveRefuses(stage) != SaveRefusal::NoPuzzle;
     case SolveRestart:
-        return canChange || session.phase == PlayPhase::SolutionShown;
+        return MayRestart(session);
     case SolveUndo:
-        return canChange && session.history.CanUndo() && !session.IsBrushOrLinkMode();
+        return MayUndo(session);
     case SolveRedo:
-        return canChange && session.history.CanRedo() && !session.IsBrushOrLinkMode();
+        return MayRedo(session);
     case SolveResetCell:
-        return canChange && session.selectedCell != kNoCell &&
-               !session.grid.IsGiven(session.selectedCell);
+        return MayResetCell(session);
     case SolveHint:
         return canChange && !session.showMe;
     case SolveShowMe:

@@ -32,6 +32,11 @@ void CopyTimes(const LevelStatistics& from, LevelStatistics& to) {
     to.average = from.average;
 }
 
+bool AgreeToErase(Stage& stage, const std::string& what) {
+    return AskYesNo(stage, "Erase Time", "Do you really want to erase " + what + " ?",
+                    EnterKey::No);
+}
+
 }  // namespace
 
 void TakeNewerTimes(Stage& stage) {
@@ -88,6 +93,10 @@ void EraseSudokuTime(Stage& stage) {
 
 void EraseLevelTime(Stage& stage) {
     Session& session = stage.session;
+    if (!AgreeToErase(
+            stage, "the best times of all " + std::string(LevelName(session.level)) + " sudokus")) {
+        return;
+    }
     LevelStatistics statistics = stage.files.ReadStatistics(session.level);
     statistics.best = PlayTime();
     if (stage.files.EraseBestTimes(session.level) ||
@@ -100,6 +109,9 @@ void EraseLevelTime(Stage& stage) {
 }
 
 void EraseAllTime(Stage& stage) {
+    if (!AgreeToErase(stage, "all times of all levels")) {
+        return;
+    }
     std::array<LevelStatistics, kLevels> all;
     bool hasFailed = false;
     for (int level = 1; level <= kLevels; ++level) {

@@ -15,7 +15,8 @@ Stage::Stage(const Platform& system, View& frontEnd)
       anyFiles(system.files),
       files(system.files, system.folders.LocalApplicationData() / kApplicationName),
       colors(BuiltInColors()),
-      solveTech(techniques) {}
+      solveTech(techniques),
+      generator(files, settings) {}
 
 void Speel(Stage& stage, Sound sound) {
     if (stage.options.sounds) {
@@ -55,9 +56,10 @@ std::string Trimmed(const std::string& text, const char* lost) {
                                       : text.substr(first, text.find_last_not_of(lost) - first + 1);
 }
 
-bool AskYesNo(Stage& stage, const std::string& title, const std::string& text) {
+bool AskYesNo(Stage& stage, const std::string& title, const std::string& text, EnterKey enter) {
     stage.show();
-    return stage.view.ShowBox({title, text, BoxButtons::YesNo, BoxIcon::None}) == Answer::Yes;
+    return stage.view.ShowBox({title, text, BoxButtons::YesNo, BoxIcon::None, enter}) ==
+           Answer::Yes;
 }
 
 std::optional<int> AskNumber(Stage& stage, const Question& question, int least, int most) {

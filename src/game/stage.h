@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "game/generator_window.h"
 #include "game/hint_window.h"
 #include "game/options.h"
 #include "game/session.h"
@@ -47,6 +48,7 @@ struct Stage {
     SolveLog log;
     HintWindow hintWindow;
     SolveTech solveTech;
+    GeneratorWindow generator;
 
     // Makes the screen anew and has it painted; set by the game. Called before every box and every
     // yield, so that the player never looks at an old state.
@@ -84,7 +86,8 @@ std::string DoubleClickText();
 void Tell(Stage& stage, const std::string& title, const std::string& text,
           BoxIcon icon = BoxIcon::None);
 // A box with Yes and No; true for Yes.
-bool AskYesNo(Stage& stage, const std::string& title, const std::string& text);
+bool AskYesNo(Stage& stage, const std::string& title, const std::string& text,
+              EnterKey enter = EnterKey::Yes);
 // A box that asks for a whole number from `least`, which is positive, to `most`. 0 for any other
 // answer; nothing where the player cancels or leaves the line empty.
 std::optional<int> AskNumber(Stage& stage, const Question& question, int least, int most);

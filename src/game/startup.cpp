@@ -84,6 +84,7 @@ bool StartUp(Stage& stage) {
     stage.options = HaalOpties(stage.settings);
     stage.colors = HaalKleuren(stage.settings);
     stage.techniques = ReadTechniqueSettings(stage.settings);
+    stage.generator.ReadSettings();
     InitSound(stage, programFolder);
     SchrijfVersie(stage.settings);
     if (!HaveProgressFiles(stage)) {
@@ -108,12 +109,16 @@ bool MayQuit(Stage& stage) {
              "Autosolve or Scan function busy, cannot quit Vemo Sudoku now.");
         return false;
     }
+    if (RefuseQuitWhileSearching(stage)) {
+        return false;
+    }
     if (!AskYesNo(stage, kTitle, "Do you really want to quit ?")) {
         return false;
     }
     if (HasUnsavedSteps(stage.session) && WhySaveRefuses(stage) == SaveRefusal::None) {
         if (!SaveProgress(stage) &&
-            !AskYesNo(stage, kTitle, "The sudoku could not be saved. Quit all the same ?")) {
+            !AskYesNo(stage, kTitle, "The sudoku could not be saved. Quit all the same ?",
+                      EnterKey::No)) {
             return false;
         }
     } else if (stage.session.level != 0) {
@@ -121,7 +126,8 @@ bool MayQuit(Stage& stage) {
     }
     WriteTechniqueSettings(stage.settings, stage.techniques);
     SchrijfOpties(stage.settings, stage.options);
-    return true;
+    WriteGeneratorOrder(stage.settings, stage.generator.Order());
+    return MayQuitGenerator(stage);
 }
 
 }  // namespace vemo

@@ -15,6 +15,8 @@ namespace vemo {
 enum class BoxButtons : std::uint8_t { Ok, YesNo, AbortRetryIgnore };
 enum class BoxIcon : std::uint8_t { None, Warning };
 enum class Answer : std::uint8_t { Ok, Yes, No, Abort, Retry, Ignore };
+// What Enter answers to Yes and No: it goes on unless that would lose something.
+enum class EnterKey : std::uint8_t { Yes, No };
 
 // A modal message box.
 struct Box {
@@ -22,6 +24,7 @@ struct Box {
     std::string text;
     BoxButtons buttons = BoxButtons::Ok;
     BoxIcon icon = BoxIcon::None;
+    EnterKey enter = EnterKey::Yes;
 };
 
 // A modal box with one line of input.
@@ -39,7 +42,7 @@ struct SaveQuestion {
 };
 
 // The windows that stand beside the main window.
-enum class Form : std::uint8_t { FormHint, FormLog, SolveTech };
+enum class Form : std::uint8_t { FormHint, FormLog, SolveTech, FormGenerator };
 // Whether a window takes the keyboard when it comes: where the player asked for it.
 enum class Keyboard : std::uint8_t { Stays, Follows };
 
@@ -54,7 +57,7 @@ class View {
     virtual std::optional<std::filesystem::path> AskSaveFile(const SaveQuestion& question) = 0;
 
     // Shows a window, or brings it to the front; waits for nothing. Whatever closes it later, the
-    // game hears of it by `FormUnload`.
+    // game is asked by `FormQueryUnload` and hears of it by `FormUnload`.
     virtual void OpenForm(Form form, Keyboard keyboard) = 0;
     virtual void CloseForm(Form form) = 0;
     // The hint window as it would be seen, as a BMP file. Empty where it is not open.

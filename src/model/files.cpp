@@ -84,6 +84,21 @@ std::optional<PuzzleRecord> RecordFiles::ReadPuzzle(int level, int number) {
     return UnpackPuzzle(std::span<const std::uint8_t, kPuzzleRecordSize>(*bytes));
 }
 
+std::vector<PuzzleRecord> RecordFiles::ReadPuzzles(int level) {
+    const std::size_t length = static_cast<std::size_t>(PuzzleCount(level)) * kPuzzleRecordSize;
+    const Bytes content = files_.ReadAt(PuzzlePath(level), 0, length).value_or(Bytes());
+    std::vector<PuzzleRecord> puzzles;
+    std::span<const std::uint8_t> rest(content);
+    while (rest.size() >= kPuzzleRecordSize) {
+        const PuzzleRecord record = UnpackPuzzle(rest.first<kPuzzleRecordSize>());
+        if (IsWhole(record)) {
+            puzzles.push_back(record);
+        }
+        rest = rest.subspan(kPuzzleRecordSize);
+    }
+    return puzzles;
+}
+
 std::optional<FileError> RecordFiles::WritePuzzle(int level, int number,
                                                   const PuzzleRecord& record) {
     return WriteRecord(files_, PuzzlePath(level), number, Pack(record));
@@ -131,10 +146,16 @@ std::optional<FileError> RecordFiles::CreateProgressFile(int level, int count) {
 RecordFiles::SavedPuzzle RecordFiles::SaveSudoku(int level, const PuzzleRecord& record) {
     SavedPuzzle saved;
     saved.number = PuzzleCount(level) + 1;
+    const PlayState before = ReadPlayState(level, saved.number);
     // The progress record goes first: a puzzle is never there without one.
     saved.error = WritePlayState(level, saved.number, PlayState{});
-    if (!saved.error) {
-        saved.error = WritePuzzle(level, saved.number, record);
+    if (saved.error) {
+        return saved;
+    }
+    saved.error = WritePuzzle(level, saved.number, record);
+    if (saved.error && before != PlayState{}) {
+        // Its puzzle may only be out of reach for now.
+        WritePlayState(level, saved.number, before);
     }
     return saved;
 }

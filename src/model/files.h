@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "model/levels.h"
 #include "model/records.h"
@@ -36,6 +37,8 @@ class RecordFiles {
 
     // Nothing where the file has no such record or cannot be read.
     std::optional<PuzzleRecord> ReadPuzzle(int level, int number);
+    // All whole puzzles of the level, in one reading of the file; damaged records are passed over.
+    std::vector<PuzzleRecord> ReadPuzzles(int level);
     std::optional<FileError> WritePuzzle(int level, int number, const PuzzleRecord& record);
 
     // Gives every puzzle of the level the best time 0:00, in one replacement of the file.
@@ -51,7 +54,7 @@ class RecordFiles {
     std::optional<FileError> CreateProgressFile(int level, int count);
 
     // A new puzzle after the last one, its empty play state under the same number; `number` is
-    // where it went.
+    // where it went. On an error no play state that was there is lost.
     struct SavedPuzzle {
         int number = 0;
         std::optional<FileError> error;

@@ -13,12 +13,19 @@
 namespace vemo {
 namespace {
 
+volatile std::sig_atomic_t interrupts = 0;
+
 bool IsTerminal(std::FILE* stream) {
 #ifdef _WIN32
     return _isatty(_fileno(stream)) != 0;
 #else
     return isatty(fileno(stream)) != 0;
 #endif
+}
+
+void NoteInterrupt(int signal) {
+    interrupts = 1;
+    std::signal(signal, SIG_DFL);
 }
 
 }  // namespace
@@ -31,6 +38,15 @@ void ReportClosedPipes() {
 #ifdef SIGPIPE
     std::signal(SIGPIPE, SIG_IGN);
 #endif
+}
+
+void WatchForInterrupts() {
+    std::signal(SIGINT, NoteInterrupt);
+    std::signal(SIGTERM, NoteInterrupt);
+}
+
+bool IsInterrupted() {
+    return interrupts != 0;
 }
 
 }  // namespace vemo

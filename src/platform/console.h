@@ -10,4 +10,9 @@ bool CanShowProgress();
 // From now on a write into a closed pipe fails like any other write, instead of ending the program.
 void ReportClosedPipes();
 
+// From now on the user's Ctrl+C, or a request to end, is noted instead of ending the program; the
+// second one ends it.
+void WatchForInterrupts();
+bool IsInterrupted();
+
 }  // namespace vemo

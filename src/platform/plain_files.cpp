@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <fstream>
 #include <ios>
+#include <random>
 #include <system_error>
 
 namespace vemo {
@@ -16,6 +18,11 @@ namespace fs = std::filesystem;
 // A system takes a write page by page, and a program killed meanwhile has written the first pages
 // only. No system has smaller pages than these.
 constexpr std::uint64_t kPageSize = 4096;
+
+constexpr const char* kOfAWriter = ".vemo-";
+constexpr const char* kHalfWritten = ".new";
+// Nobody is still at a half-written file that is older.
+constexpr std::chrono::minutes kLongestWrite(10);
 
 bool LiesInOnePage(std::uint64_t offset, std::size_t length) {
     return length == 0 || offset / kPageSize == (offset + length - 1) / kPageSize;
@@ -28,6 +35,25 @@ FileError ErrorOf(const fs::path& path, const char* deed) {
 
 std::span<const char> AsChars(std::span<const std::uint8_t> bytes) {
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+// What a program that was killed while it wrote `target` left beside it.
+void RemoveStale(const fs::path& target) {
+    const std::string start = Utf8(target.filename()) + kOfAWriter;
+    std::error_code error;
+    for (fs::directory_iterator at(target.parent_path(), error), end; !error && at != end;
+         at.increment(error)) {
+        const std::string name = Utf8(at->path().filename());
+        if (!name.starts_with(start) || !name.ends_with(kHalfWritten)) {
+            continue;
+        }
+        std::error_code gone;
+        const bool isLink = at->is_symlink(gone);
+        const auto written = at->last_write_time(gone);
+        if (!gone && !isLink && fs::file_time_type::clock::now() - written > kLongestWrite) {
+            fs::remove(at->path(), gone);
+        }
+    }
 }
 
 // A stream without a buffer of its own hands each write to the system as one call.
@@ -53,6 +79,10 @@ std::optional<FileError> WriteAll(std::fstream& file, const fs::path& path,
 }
 
 }  // namespace
+
+PlainFiles::PlainFiles(const std::string& writer)
+    : ending_(kOfAWriter + (writer.empty() ? std::to_string(std::random_device()()) : writer) +
+              kHalfWritten) {}
 
 std::optional<std::uint64_t> PlainFiles::Size(const fs::path& path) {
     std::error_code error;
@@ -137,8 +167,9 @@ std::optional<FileError> PlainFiles::Replace(const fs::path& path,
     if (fs::exists(target, error) && !fs::is_regular_file(target, error)) {
         return FileError{path, "is no regular file"};
     }
+    RemoveStale(target);
     fs::path beside = target;
-    beside += ".new";
+    beside += ending_;
     std::fstream file;
     if (!OpenUnbuffered(file, beside, std::ios::out | std::ios::trunc)) {
         return ErrorOf(path, "cannot be written");

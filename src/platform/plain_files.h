@@ -7,6 +7,10 @@ namespace vemo {
 
 class PlainFiles final : public Files {
   public:
+    // `writer` tells this program's half-written files from those of another that writes the same
+    // file meanwhile: "<file>.vemo-<writer>.new". Without one, a number drawn at random.
+    explicit PlainFiles(const std::string& writer = "");
+
     std::optional<std::uint64_t> Size(const std::filesystem::path& path) override;
     std::optional<Bytes> ReadAt(const std::filesystem::path& path, std::uint64_t offset,
                                 std::size_t length) override;
@@ -22,6 +26,8 @@ class PlainFiles final : public Files {
     // The content with these bytes at `offset`, in place of the file's.
     std::optional<FileError> ReplacePart(const std::filesystem::path& path, std::uint64_t offset,
                                          std::span<const std::uint8_t> bytes);
+
+    std::string ending_;  // of a half-written file
 };
 
 }  // namespace vemo

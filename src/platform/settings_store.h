@@ -22,4 +22,8 @@ class SettingsStore {
     virtual void Flush() = 0;
 };
 
+// The number that a stored text stands for; `fallback` where it is no whole decimal number.
+long ReadNumber(SettingsStore& store, std::string_view section, std::string_view key,
+                long fallback);
+
 }  // namespace vemo

@@ -7,6 +7,7 @@
 #include <QPixmap>
 #include <QTemporaryDir>
 
+#include "game/view_without_window.h"
 #include "platform/memory_settings.h"
 #include "platform/plain_files.h"
 #include "qt/board_widget.h"
@@ -22,33 +23,16 @@ namespace {
 
 constexpr int kFailure = 1;
 
-// Nobody is there to press a button: Yes and OK to everything.
-class DemoView final : public View {
+// Nobody watches, but the window is drawn for the picture.
+class DemoView final : public ViewWithoutWindow {
   public:
     void Attach(MainWindow* window) { window_ = window; }
 
-    Answer ShowBox(const Box& box) override {
-        return box.buttons == BoxButtons::YesNo ? Answer::Yes : Answer::Ok;
-    }
-    std::optional<std::string> Ask(const Question& question) override {
-        return question.suggestion;
-    }
-    std::optional<std::filesystem::path> AskSaveFile(const SaveQuestion&) override {
-        return std::nullopt;
-    }
-    void OpenForm(Form, Keyboard) override {}
-    void CloseForm(Form) override {}
-    Bytes HintPicture() override { return {}; }
-    void Yield() override {}
-    void Pause(int, const std::function<bool()>&) override {}
     void Refresh() override {
         if (window_ != nullptr) {
             window_->ShowScreen();
         }
     }
-    void Beep() override {}
-    void OpenLink(const std::string&) override {}
-    void Close() override {}
 
   private:
     MainWindow* window_ = nullptr;

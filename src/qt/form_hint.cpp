@@ -65,6 +65,7 @@ Bytes FormHint::Picture() const {
 }
 
 void FormHint::MakeMenu() {
+    menuBar()->setAccessibleName(u"Menu"_s);
     QMenu* menu = menuBar()->addMenu(u"&Window"_s);
     Game& game = CurrentGame();
     const auto add = [this, menu](const QString& name, const QString& caption,

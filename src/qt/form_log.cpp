@@ -91,6 +91,7 @@ void FormLog::keyPressEvent(QKeyEvent* event) {
 }
 
 void FormLog::MakeWindowMenu() {
+    menuBar()->setAccessibleName(u"Menu"_s);
     QMenu* menu = menuBar()->addMenu(u"&Window"_s);
     Game& game = CurrentGame();
     save_ = menu->addAction(u"Save &As..."_s, QKeySequence(u"Ctrl+S"_s), this,

@@ -34,8 +34,10 @@ void FormWindow::Open(Keyboard keyboard) {
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
-    event->accept();
-    game_.FormUnload(form_);
+    event->setAccepted(game_.FormQueryUnload(form_));
+    if (event->isAccepted()) {
+        game_.FormUnload(form_);
+    }
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {

@@ -1,5 +1,5 @@
-// What the windows beside the main window share: each tells the game when it has been closed,
-// goes with the main window, and closes on Esc.
+// What the windows beside the main window share: each asks the game whether it may close and tells
+// it when it has, goes with the main window, and closes on Esc.
 #pragma once
 
 #include <QMainWindow>

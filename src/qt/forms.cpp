@@ -1,6 +1,7 @@
 // The windows beside the main window.
 #include "qt/forms.h"
 
+#include "qt/form_generator.h"
 #include "qt/form_hint.h"
 #include "qt/form_log.h"
 #include "qt/solve_tech_window.h"
@@ -39,6 +40,9 @@ void Forms::Open(Form form, Keyboard keyboard, const BoardColors& colors) {
     case Form::SolveTech:
         Made(solveTech_, game_, mainWindow_).Open(keyboard);
         break;
+    case Form::FormGenerator:
+        Made(generator_, game_, mainWindow_).Open(keyboard);
+        break;
     }
     ShowScreen(colors);
 }
@@ -54,6 +58,9 @@ void Forms::Close(Form form) {
     case Form::SolveTech:
         CloseOpen(solveTech_);
         break;
+    case Form::FormGenerator:
+        CloseOpen(generator_);
+        break;
     }
 }
 
@@ -66,6 +73,9 @@ void Forms::ShowScreen(const BoardColors& colors) {
     }
     if (IsOpen(solveTech_)) {
         solveTech_->ShowScreen();
+    }
+    if (IsOpen(generator_)) {
+        generator_->ShowScreen(colors);
     }
 }
 

@@ -8,6 +8,7 @@ class QWidget;
 
 namespace vemo {
 
+class FormGenerator;
 class FormHint;
 class FormLog;
 class SolveTechWindow;
@@ -30,6 +31,7 @@ class Forms {
     FormHint* hint_ = nullptr;
     FormLog* log_ = nullptr;
     SolveTechWindow* solveTech_ = nullptr;
+    FormGenerator* generator_ = nullptr;
 };
 
 }  // namespace vemo

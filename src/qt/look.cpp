@@ -19,6 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double kRadius = 6;
+constexpr double kSpinRadius = 2;
 constexpr double kThin = 1;
 constexpr double kHeavy = 2;
 // Between the ring of the focus and a button that is filled with the accent colour.
@@ -112,6 +113,12 @@ void DrawMenuBarItem(QPainter& painter, const QStyleOptionMenuItem& item, const 
                        item.state.testFlag(QStyle::State_Enabled), item.text, QPalette::WindowText);
 }
 
+// The line of a spin box has none: the box draws its own.
+bool HasFrame(const QStyleOption& option) {
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);
+    return frame == nullptr || frame->lineWidth > 0;
+}
+
 void DrawLineEdit(QPainter& painter, const QStyleOption& option) {
     const bool hasFocus = option.state.testFlag(QStyle::State_HasFocus);
     const QPalette& palette = option.palette;
@@ -120,6 +127,18 @@ void DrawLineEdit(QPainter& painter, const QStyleOption& option) {
     DrawBox(painter, option.rect, palette.base(),
             hasFocus ? palette.highlight().color() : palette.mid().color(),
             hasFocus ? kHeavy : kThin);
+    painter.restore();
+}
+
+// Over the one of the style below, which is lost on a dark window.
+void DrawSpinFrame(QPainter& painter, const QStyleOption& option) {
+    const bool hasFocus = option.state.testFlag(QStyle::State_HasFocus);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(hasFocus ? option.palette.highlight().color() : option.palette.mid().color());
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), kSpinRadius,
+                            kSpinRadius);
     painter.restore();
 }
 
@@ -207,7 +226,9 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
         DrawRadioButton(*painter, *option);
         return;
     case PE_PanelLineEdit:
-        DrawLineEdit(*painter, *option);
+        if (HasFrame(*option)) {
+            DrawLineEdit(*painter, *option);
+        }
         return;
     case PE_PanelTipLabel:
         painter->fillRect(option->rect, option->palette.mid());
@@ -244,6 +265,14 @@ void Look::drawControl(ControlElement element, const QStyleOption* option, QPain
         return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void Look::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                              QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_SpinBox) {
+        DrawSpinFrame(*painter, *option);
+    }
 }
 
 int Look::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

@@ -30,7 +30,7 @@ struct BoxButton {
     Answer answer;
 };
 
-// The first is pressed by Enter.
+// The first is pressed by Enter, unless the box says otherwise.
 constexpr std::array kOk = {BoxButton{QMessageBox::Ok, Answer::Ok}};
 constexpr std::array kYesNo = {BoxButton{QMessageBox::Yes, Answer::Yes},
                                BoxButton{QMessageBox::No, Answer::No}};
@@ -54,6 +54,11 @@ std::span<const BoxButton> ButtonsOf(BoxButtons buttons) {
 const BoxButton& EscapeOf(std::span<const BoxButton> buttons) {
     const auto retry = std::ranges::find(buttons, Answer::Retry, &BoxButton::answer);
     return retry != buttons.end() ? *retry : buttons.back();
+}
+
+// Pressed by Enter.
+const BoxButton& DefaultOf(const Box& box, std::span<const BoxButton> buttons) {
+    return box.enter == EnterKey::No ? EscapeOf(buttons) : buttons.front();
 }
 
 // A short text would make the box too narrow for its title. A long one is wrapped by the box, as
@@ -91,7 +96,7 @@ Answer ShowMessage(const Box& box, QWidget* parent) {
     for (const BoxButton& button : buttons) {
         message.addButton(button.button);
     }
-    message.setDefaultButton(buttons.front().button);
+    message.setDefaultButton(DefaultOf(box, buttons).button);
     message.setEscapeButton(EscapeOf(buttons).button);
     if (auto* label = message.findChild<QLabel*>(u"qt_msgbox_label"_s)) {
         if (message.text().contains(kFigureDash) && !AreFiguresAlike(label->font())) {

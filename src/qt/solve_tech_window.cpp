@@ -90,6 +90,7 @@ QWidget* SolveTechWindow::MakeCaptions() {
     };
     for (const auto& [column, caption] : captions) {
         auto* label = new QLabel(caption, bar);
+        label->setAccessibleName(caption.isEmpty() ? u"Position"_s : caption);
         label->setForegroundRole(QPalette::PlaceholderText);
         label->setToolTip(MeaningOf(column));
         captions_->addWidget(label, 0, static_cast<int>(column));

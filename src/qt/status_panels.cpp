@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "qt/screen_text.h"
+#include "qt/window_plan.h"
 
 namespace vemo {
 
@@ -17,6 +18,9 @@ constexpr int kMargin = 16;
 constexpr int kGap = 28;
 constexpr int kLinePad = 3;
 constexpr int kOuterPad = 5;
+
+constexpr int kLargestPart = 6;  // the bar takes at most this part of the window's height
+constexpr double kScaleStep = 0.05;
 
 }  // namespace
 
@@ -48,8 +52,23 @@ void StatusPanels::ShowScreen(const Screen& screen) {
     Arrange();
 }
 
+void StatusPanels::FitInto(QSize window) {
+    const QFont system = parentWidget()->font();
+    const double smallest = kSmallestLine / QFontMetrics(system).height();
+    QFont font = system;
+    for (double scale = 1 - kScaleStep;
+         scale >= smallest && PlanFor(window.width(), font).height * kLargestPart > window.height();
+         scale -= kScaleStep) {
+        font.setPointSizeF(system.pointSizeF() * scale);
+    }
+    if (font != this->font()) {
+        setFont(font);
+        Arrange();
+    }
+}
+
 int StatusPanels::heightForWidth(int width) const {
-    return PlanFor(width).height;
+    return PlanFor(width, font()).height;
 }
 
 QSize StatusPanels::sizeHint() const {
@@ -70,8 +89,8 @@ void StatusPanels::resizeEvent(QResizeEvent*) {
     Arrange();
 }
 
-StatusPanels::Plan StatusPanels::PlanFor(int width) const {
-    const QFontMetrics metrics = fontMetrics();
+StatusPanels::Plan StatusPanels::PlanFor(int width, const QFont& font) const {
+    const QFontMetrics metrics(font);
     const int height = metrics.height() + 2 * kLinePad;
     const int room = std::max(1, width - 2 * kMargin);
     Plan plan;
@@ -89,7 +108,7 @@ StatusPanels::Plan StatusPanels::PlanFor(int width) const {
 }
 
 void StatusPanels::Arrange() {
-    const Plan plan = PlanFor(width());
+    const Plan plan = PlanFor(width(), font());
     for (std::size_t index = 0; index < labels_.size(); ++index) {
         QLabel& label = *labels_[index];
         const QRect place = plan.places[index];

@@ -1,4 +1,5 @@
-// The five panels of the status bar. They wrap to further lines before any text is cut.
+// The five panels of the status bar. They wrap to further lines before any text is cut, and become
+// smaller before they take the board's room.
 #pragma once
 
 #include <array>
@@ -16,6 +17,8 @@ class StatusPanels final : public QWidget {
     explicit StatusPanels(QWidget* parent);
 
     void ShowScreen(const Screen& screen);
+    // The system's font, or a smaller one where the bar would be too high in a window of this size.
+    void FitInto(QSize window);
 
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;
@@ -32,7 +35,7 @@ class StatusPanels final : public QWidget {
         std::array<QRect, kStatusPanels> places;
         int height = 0;
     };
-    Plan PlanFor(int width) const;
+    Plan PlanFor(int width, const QFont& font) const;
     void Arrange();
 
     std::array<QLabel*, kStatusPanels> labels_{};

@@ -197,6 +197,7 @@ void TechniqueRows::ShowScreen() {
 void TechniqueRows::ShowRow(int position, const TechniqueRow& row) {
     const QString level = ToQString(row.tooltip);
     levels_[Index(position)]->setText(level);
+    levels_[Index(position)]->setHidden(level.isEmpty());
     QRadioButton* option = options_[Index(position)];
     if (option == nullptr) {
         return;

@@ -56,6 +56,7 @@ void WindowContent::changeEvent(QEvent* event) {
 }
 
 void WindowContent::Arrange() {
+    status_->FitInto(size());
     const int bar = status_->heightForWidth(width());
     status_->setGeometry(0, height() - bar, width(), bar);
     const WindowPlan plan = PlanWindow(QSize(width(), height() - bar), fontMetrics().height());

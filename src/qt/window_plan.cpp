@@ -26,10 +26,9 @@ constexpr double kSmallestText = 0.86;
 constexpr double kLargestText = 1.5;
 
 // What a column needs of the texts' lines, beside the board or below it, where the system's font is
-// large: it makes them smaller, down to what the usual font has in the smallest window.
+// large: it makes them smaller.
 constexpr QSizeF kLinesBeside(12, 30);
 constexpr QSizeF kLinesBelow(30, 20);
-constexpr double kSmallestLine = 13;
 
 double TextScale(QSize size, const WindowPlan& plan, int line) {
     const double share = std::min(size.height(), size.width()) / kPlainHeight;

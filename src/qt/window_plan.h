@@ -6,6 +6,10 @@
 
 namespace vemo {
 
+// Where a large font leaves too little room, texts become smaller down to lines of this height:
+// what the usual font has in the smallest window.
+inline constexpr double kSmallestLine = 13;
+
 struct WindowPlan {
     QRect board;
     QRect column;

@@ -14,48 +14,7 @@
 
 namespace vemo {
 
-// The kinds of hint; the numbers are those of the table of titles.
-enum class HintKind : std::uint8_t {
-    None = 0,
-    NakedSingle = 1,
-    HiddenSingle,
-    PointingPair,
-    BoxLine,
-    Subset,
-    XWing,
-    Swordfish,
-    MultiXWing,
-    EmptyRectangle,
-    XYWing,
-    XYZWing,
-    ColorTrap,
-    Jellyfish,
-    WXYZWing,
-    FinnedXWing,
-    PairExclusion,
-    TripleExclusion,
-    XYChain,
-    DoubleImplication,
-    Bifurcation,
-    ColorWrap,
-    MultiColor1,
-    MultiColor2,
-    BivalueGrave,
-    TwoStringKite,
-    Skyscraper,
-    SueDeCoq,
-    NiceLoop,
-    UniqueRectangle,
-    AvoidableRectangle,
-    AlternatingChain,
-    BivalueAlsXz,
-    AlsXz,
-    Medusa,
-    ForcingFromCell,
-    ForcingFromUnit,
-    MultiFish,
-};
-inline constexpr int kHintKinds = static_cast<int>(HintKind::MultiFish);
+enum class HintKind : std::uint8_t;  // see techniques/families.h
 
 struct CellDigit {
     std::uint8_t cell = 0;
@@ -93,7 +52,7 @@ struct ChainLink {
 inline constexpr std::size_t kMaxEffects = 50;
 
 struct Find {
-    HintKind kind = HintKind::None;
+    HintKind kind{};  // HintKind::None
     int variant = 0;  // the sub-code of kinds with several titles; else the family's own
 
     // The pattern. Which unit, cell or digit plays which part is fixed by the kind's own family.

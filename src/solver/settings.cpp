@@ -2,7 +2,6 @@
 #include "solver/settings.h"
 
 #include <algorithm>
-#include <charconv>
 #include <string>
 
 namespace vemo {
@@ -45,14 +44,6 @@ TechniqueSettings::TechniqueSettings() {
 
 int TechniqueSettings::SlotAt(int position) const {
     return static_cast<int>(std::ranges::find(order, position) - order.begin());
-}
-
-long ReadNumber(SettingsStore& store, std::string_view section, std::string_view key,
-                long fallback) {
-    const std::string text = store.Get(section, key, std::to_string(fallback));
-    long number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size() ? number : fallback;
 }
 
 TechniqueSettings ReadTechniqueSettings(SettingsStore& store) {

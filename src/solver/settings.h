@@ -30,8 +30,4 @@ bool IsValidOrder(const std::array<int, kSlots>& order);
 TechniqueSettings ReadTechniqueSettings(SettingsStore& store);
 void WriteTechniqueSettings(SettingsStore& store, const TechniqueSettings& settings);
 
-// The number that a stored text stands for; `fallback` where it is no whole decimal number.
-long ReadNumber(SettingsStore& store, std::string_view section, std::string_view key,
-                long fallback);
-
 }  // namespace vemo

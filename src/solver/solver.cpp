@@ -59,7 +59,10 @@ Ladder QuickLadder() {
 }
 
 Ladder TrialLadder() {
-    Ladder ladder = FixedLadder();
+    return WithoutTrials(FixedLadder());
+}
+
+Ladder WithoutTrials(Ladder ladder) {
     std::erase_if(ladder, [](const LadderStep& at) { return at.step->trial != nullptr; });
     return ladder;
 }

@@ -29,6 +29,7 @@ Ladder FixedLadder();
 Ladder QuickLadder();
 // The fixed ladder without its trials: what a trial itself may use.
 Ladder TrialLadder();
+Ladder WithoutTrials(Ladder ladder);
 
 // Slots 3..7, then positions 8..39 in the player's order, switched-off slots left out.
 Ladder HintLadder(const TechniqueSettings& settings);       // every step in hint mode

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "model/levels.h"
 #include "solver/solver.h"
 
 namespace vemo {
@@ -53,7 +54,7 @@ int CountTrials(Solver& solver) {
 
 }  // namespace
 
-std::optional<int> HardnessFrom(const Digits& clues, int least) {
+std::optional<Hardness> HardnessFrom(const Digits& clues, int least, const std::stop_token& stop) {
     // The two kinds of chains do most of what the whole ladder can, in a fraction of its time.
     static const Part kParts[] = {{QuickLadder(), 0},
                                   {QuickLadderAnd({kShortChainSlot}), 1},
@@ -64,23 +65,26 @@ std::optional<int> HardnessFrom(const Digits& clues, int least) {
         weightLeft += part.weight;
     }
     Solver solver(Grid::FromClues(clues));
-    int hardness = 0;
+    solver.SetStepWatcher([&](const Step&) { return !stop.stop_requested(); });
+    Hardness hardness;
     bool isSolved = false;
     for (const auto& [ladder, weight] : kParts) {
         isSolved = isSolved || RunToTheEnd(solver, ladder);
         const int marks = isSolved ? 0 : MarkCount(solver.State().Cells());
         // There will be no more marks later on.
-        if (hardness + weightLeft * marks < least) {
+        if (hardness.value + weightLeft * marks < least) {
             return std::nullopt;
         }
-        hardness += weight * marks;
+        hardness.value += weight * marks;
         weightLeft -= weight;
     }
+    hardness.level = solver.ReachedLevel();
     if (!isSolved) {
         const int trials = CountTrials(solver);
-        hardness += trials == 0 ? kWeightOfOutlaw : -kWeightOfATrial * trials;
+        hardness.value += trials == 0 ? kWeightOfOutlaw : -kWeightOfATrial * trials;
+        hardness.level = trials == 0 ? kOutlaw : kOutlaw - 1;
     }
-    return hardness;
+    return stop.stop_requested() ? std::nullopt : std::optional(hardness);
 }
 
 }  // namespace vemo

@@ -1,207 +1,125 @@
-// Random puzzles and their sorting into levels.
+// The shipped puzzles, as orders to the generator.
 #include "tools/level_maker.h"
 
 #include <algorithm>
-#include <numeric>
 #include <set>
-#include <utility>
 
-#include "solver/fast_count.h"
-#include "solver/solver.h"
-#include "tools/hard_walk.h"
-#include "tools/rated_puzzle.h"
+#include "tools/canonical.h"
+#include "tools/generator.h"
 
 namespace vemo {
 namespace {
 
+constexpr int kLastSymmetricalLevel = 5;
+
+constexpr std::chrono::milliseconds kBetweenTwoLooks{200};
+
+// How many of the level's puzzles have this symmetry.
+int ShareOf(Symmetry symmetry, int level, int count) {
+    const int symmetrical = level <= kLastSymmetricalLevel ? count / 2 : 0;
+    if (symmetry == Symmetry::None) {
+        return count - symmetrical;
+    }
+    const int symmetries = static_cast<int>(Symmetries().size()) - 1;
+    const int at = static_cast<int>(symmetry);
+    return symmetrical * at / symmetries - symmetrical * (at - 1) / symmetries;
+}
+
+class LevelMaker {
+  public:
+    LevelMaker(const LevelSettings& settings, const MakerProgress& progress)
+        : settings_(settings), progress_(progress) {}
+
+    void Make(Symmetry symmetry);
+    LevelPuzzles Sorted();
+
+  private:
+    const LevelSettings& settings_;
+    const MakerProgress& progress_;
+    std::array<std::vector<RatedPuzzle>, kLevels> levels_;
+    std::set<Digits> known_;  // canonical forms
+};
+
+void LevelMaker::Make(Symmetry symmetry) {
+    GeneratorSettings order;
+    order.seed = settings_.seed;
+    order.symmetry = symmetry;
+    order.mostTries = settings_.mostTries;
+    for (int level = 1; level <= kLevels; ++level) {
+        const int count = settings_.counts[static_cast<std::size_t>(level) - 1];
+        order.wanted[static_cast<std::size_t>(level)] = ShareOf(symmetry, level, count);
+    }
+    if (!SettingsError(order).empty()) {
+        return;  // nothing of this symmetry is wanted
+    }
+    Generator generator(order, settings_.threads, known_);
+    bool isOver = false;
+    while (!isOver) {
+        generator.Wait(kBetweenTwoLooks);
+        isOver = generator.Counts().ending != Ending::None;
+        for (const RatedPuzzle& rated : generator.Take()) {
+            levels_[static_cast<std::size_t>(rated.rating) - 1].push_back(rated);
+            known_.insert(CanonicalForm(rated.puzzle.clues, rated.puzzle.solution));
+        }
+        if (progress_) {
+            int wanted = 0;
+            for (int count : settings_.counts) {
+                wanted += count;
+            }
+            progress_(static_cast<int>(known_.size()), wanted);
+        }
+    }
+}
+
+LevelPuzzles LevelMaker::Sorted() {
+    LevelPuzzles sorted;
+    for (std::size_t at = 0; at < kLevels; ++at) {
+        std::ranges::stable_sort(levels_[at], IsGentler);
+        for (const RatedPuzzle& rated : levels_[at]) {
+            sorted[at].push_back(rated.puzzle);
+        }
+    }
+    return sorted;
+}
+
+// Keeps the corpus of a seed apart from its other puzzles.
+constexpr std::uint64_t kCorpusStream = 0x636f72707573;
+// Rated 1, 2, 3, and all above in one.
+constexpr std::array<ClueRange, 4> kCorpusClues = {{{32, 40}, {28, 34}, {25, 31}, {}}};
 // The others look the same after half a turn.
 constexpr int kOneUnsymmetricalIn = 4;
 
-// Puzzles of the levels from here on are walked to: at random they are too rare.
-constexpr int kFirstWalkedLevel = 7;
-
-// Keep the corpus and the walk of a seed apart from its other puzzles.
-constexpr std::uint64_t kCorpusStream = 0x636f72707573;
-constexpr std::uint64_t kWalkStream = 0x77616c6b;
-// Rated 1, 2, 3, and all above in one.
-constexpr int kCorpusSorts = 4;
-
-struct ClueRange {
-    int fewest;
-    int most;
-};
-
-// How far puzzles are dug out. A puzzle of the first levels is friendlier with more clues than it
-// needs; from the fourth on each is dug as far as it goes.
-constexpr std::array<ClueRange, 4> kClueRanges = {{{32, 40}, {28, 34}, {25, 31}, {17, 81}}};
-
-ClueRange RangeOf(int level) {
-    const std::size_t at = static_cast<std::size_t>(level) - 1;
-    return kClueRanges[std::min(at, kClueRanges.size() - 1)];
-}
-
-int ClueCount(const Digits& clues) {
-    return kCells - static_cast<int>(std::ranges::count(clues, 0));
-}
-
-// Fills the cell with the fewest candidates, then the rest.
-bool FillAtRandom(const Grid& grid, Random& random, Digits& solution) {
-    if (grid.EmptyCount() == 0) {
-        solution = grid.AllDigits();
-        return true;
-    }
-    const auto markCount = [&](int cell) { return BitCount(grid.MarksAt(cell)); };
-    int chosen = grid.EmptyCells().First();
-    for (int cell : grid.EmptyCells()) {
-        chosen = markCount(cell) < markCount(chosen) ? cell : chosen;
-    }
-    std::array<int, kDigits> digits;
-    std::iota(digits.begin(), digits.end(), 1);
-    random.Shuffle(digits);
-    for (int digit : digits) {
-        if (!grid.KnopAan(chosen, digit)) {
-            continue;
-        }
-        Grid next = grid;
-        next.Zet(digit, chosen);
-        if (FillAtRandom(next, random, solution)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-PuzzleRecord MakePuzzle(ClueRange range, Random& random) {
+PuzzleRecord CorpusPuzzle(ClueRange clues, Random& random) {
     PuzzleRecord puzzle;
     puzzle.solution = RandomSolution(random);
     const Symmetry symmetry =
         random.Below(kOneUnsymmetricalIn) == 0 ? Symmetry::None : Symmetry::HalfTurn;
-    const bool digsAllTheWay = range.most == kCells;
-    const int fewest = digsAllTheWay ? range.fewest : random.Between(range.fewest, range.most);
+    const int fewest = clues.fewest == 0 ? 0 : random.Between(clues.fewest, clues.most);
     puzzle.clues = DigClues(puzzle.solution, symmetry, fewest, random);
     return puzzle;
 }
 
-// A puzzle of each level in turn, as long as the level is not full.
-class Sorter {
-  public:
-    explicit Sorter(const LevelSettings& settings)
-        : settings_(settings), random_(settings.seed), walk_(settings.seed ^ kWalkStream) {}
-
-    void Fill(const MakerProgress& progress);
-    LevelPuzzles Levels();
-
-  private:
-    bool IsFull(int level) const {
-        return static_cast<int>(PuzzlesOf(level).size()) == settings_.count;
-    }
-    const std::vector<RatedPuzzle>& PuzzlesOf(int level) const {
-        return puzzles_[static_cast<std::size_t>(level) - 1];
-    }
-    void TryPuzzleFor(int level);
-
-    LevelSettings settings_;
-    Random random_;
-    HardWalk walk_;
-    std::array<std::vector<RatedPuzzle>, kLevels> puzzles_;
-    std::set<Digits> known_;
-};
-
-void Sorter::Fill(const MakerProgress& progress) {
-    const int wanted = settings_.count * kLevels;
-    std::int64_t triesLeft = std::int64_t{wanted} * settings_.triesPerPuzzle;
-    bool isDone = false;
-    while (!isDone && triesLeft > 0) {
-        isDone = true;
-        for (int level = 1; level <= kLevels; ++level) {
-            if (!IsFull(level)) {
-                TryPuzzleFor(level);
-                --triesLeft;
-                isDone = false;
-            }
-        }
-        if (progress) {
-            progress(static_cast<int>(known_.size()), wanted);
-        }
-    }
-}
-
-// A puzzle goes where its rating sends it, if there is room and it has clues enough for the level.
-void Sorter::TryPuzzleFor(int level) {
-    const std::optional<RatedPuzzle> rated =
-        level < kFirstWalkedLevel ? Rate(MakePuzzle(RangeOf(level), random_)) : walk_.Next();
-    if (!rated || IsFull(rated->rating)) {
-        return;
-    }
-    const ClueRange range = RangeOf(rated->rating);
-    const int clues = ClueCount(rated->puzzle.clues);
-    if (clues >= range.fewest && clues <= range.most && known_.insert(rated->puzzle.clues).second) {
-        puzzles_[static_cast<std::size_t>(rated->rating) - 1].push_back(*rated);
-    }
-}
-
-LevelPuzzles Sorter::Levels() {
-    LevelPuzzles levels;
-    for (std::size_t at = 0; at < kLevels; ++at) {
-        std::ranges::stable_sort(puzzles_[at], IsGentler);
-        for (const RatedPuzzle& rated : puzzles_[at]) {
-            levels[at].push_back(rated.puzzle);
-        }
-    }
-    return levels;
-}
-
-// Answers whether the solution is still the only one.
-bool TakeClue(Digits& clues, std::size_t cell) {
-    const bool isNeeded = NeedsClue(clues, static_cast<int>(cell));
-    clues[cell] = 0;
-    return !isNeeded;
-}
-
 }  // namespace
 
-Digits RandomSolution(Random& random) {
-    Digits solution{};
-    FillAtRandom(Grid(), random, solution);
-    return solution;
-}
-
-Digits DigClues(const Digits& from, Symmetry symmetry, int fewest, Random& random) {
-    std::array<std::size_t, kCells> order;
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    random.Shuffle(order);
-    Digits clues = from;
-    int clueCount = ClueCount(clues);
-    for (std::size_t cell : order) {
-        const std::size_t partner = symmetry == Symmetry::HalfTurn ? kCells - 1 - cell : cell;
-        const int going = partner == cell ? 1 : 2;
-        if (clues[cell] == 0 || clueCount - going < fewest) {
-            continue;
-        }
-        Digits fewer = clues;
-        if (TakeClue(fewer, cell) && (partner == cell || TakeClue(fewer, partner))) {
-            clues = fewer;
-            clueCount -= going;
-        }
-    }
-    return clues;
-}
-
 LevelPuzzles MakeLevels(const LevelSettings& settings, const MakerProgress& progress) {
-    Sorter sorter(settings);
-    sorter.Fill(progress);
-    return sorter.Levels();
+    LevelMaker maker(settings, progress);
+    for (const SymmetryRow& row : Symmetries()) {
+        maker.Make(row.symmetry);
+    }
+    return maker.Sorted();
 }
 
 std::vector<Digits> MakeCorpus(std::uint64_t seed, int count, const MakerProgress& progress) {
     Random random(seed ^ kCorpusStream);
     std::vector<Digits> corpus;
     std::set<Digits> known;
+    constexpr int kSorts = static_cast<int>(kCorpusClues.size());
     while (static_cast<int>(corpus.size()) < count) {
-        const int sort = 1 + static_cast<int>(corpus.size()) % kCorpusSorts;
-        const PuzzleRecord puzzle = MakePuzzle(RangeOf(sort), random);
+        const int sort = 1 + static_cast<int>(corpus.size()) % kSorts;
+        const PuzzleRecord puzzle =
+            CorpusPuzzle(kCorpusClues[static_cast<std::size_t>(sort) - 1], random);
         const int rating = Rate(puzzle).rating;
-        if (std::min(rating, kCorpusSorts) == sort && known.insert(puzzle.clues).second) {
+        if (std::min(rating, kSorts) == sort && known.insert(puzzle.clues).second) {
             corpus.push_back(puzzle.clues);
         }
         if (progress) {

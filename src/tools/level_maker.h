@@ -1,8 +1,8 @@
-// Random puzzles with exactly one solution, and the nine levels that they are sorted into.
+// The puzzles that the game is shipped with, and a list of mixed ones for tests.
 //
-// The shipped level files and the corpus of the tests come from
-//     vemosud make-levels --output assets --seed 2026 --tries 1500
+// The list in tests/data comes from
 //     vemosud make-levels --corpus tests/data/corpus.txt --corpus-count 400 --seed 2026
+// and assets/levels/README.md says where the level files come from.
 #pragma once
 
 #include <array>
@@ -12,35 +12,26 @@
 
 #include "model/levels.h"
 #include "model/records.h"
-#include "tools/random.h"
 
 namespace vemo {
 
-// A full grid without a clash.
-Digits RandomSolution(Random& random);
-
-// Whether the clues look the same after half a turn.
-enum class Symmetry : std::uint8_t { None, HalfTurn };
-
-// Takes clues out of a full grid, or out of a puzzle, as long as its solution stays the only one
-// and at least `fewest` clues stay. What is left has more clues where no other can go.
-Digits DigClues(const Digits& from, Symmetry symmetry, int fewest, Random& random);
-
 struct LevelSettings {
     std::uint64_t seed = 1;
-    int count = 60;  // puzzles a level
-    // Where the search ends, on the average of all levels.
-    int triesPerPuzzle = 500;
+    std::array<int, kLevels> counts{};  // puzzles, by level - 1
+    // Where the search for one kind of puzzle ends although some are missing.
+    std::int64_t mostTries = 1'000'000'000;
+    int threads = 1;
 };
 
-// By level, from easier to harder; all different.
+// By level - 1, from gentle to hard.
 using LevelPuzzles = std::array<std::vector<PuzzleRecord>, kLevels>;
 
 // Told now and then how many puzzles stand and how many are wanted.
 using MakerProgress = std::function<void(int made, int wanted)>;
 
-// The fixed ladder sorts them. The same settings and the same ladder make the same puzzles. A level
-// stays short, or empty, where its kind of puzzle is too rare for a search of bounded length.
+// Half of the puzzles of the first five levels have a symmetry, each of the six as often. No two
+// are equivalent. The same settings make the same puzzles, with any number of threads. A level
+// stays short where its kind of puzzle is too rare for so many tries.
 LevelPuzzles MakeLevels(const LevelSettings& settings, const MakerProgress& progress = {});
 
 // Puzzles of the levels 1, 2, 3 and above in turn, all different.

@@ -1,6 +1,5 @@
 // What each command answers.
 #include <algorithm>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -10,8 +9,6 @@
 
 #include "cli/invoke.h"
 #include "cli/ladder_options.h"
-#include "model/files.h"
-#include "platform/plain_files.h"
 #include "support/puzzles.h"
 
 namespace vemo {
@@ -202,37 +199,6 @@ TEST(Find, LooksForOneKindOfStepAlone) {
               R"("Hidden Single 1 in box at cell A1","place":[{"cell":"A1","digit":1}],)"
               R"("remove":[]}]})"
               "\n");
-}
-
-TEST(MakeLevels, WritesNineFilesAndSparesAPlayersFolder) {
-    namespace fs = std::filesystem;
-    const fs::path folder = fs::path(testing::TempDir()) / "vemo_make_levels_test";
-    fs::remove_all(folder);
-    const std::vector<std::string> words = {"make-levels", "--output", folder.string(), "--count=2",
-                                            "--tries=20"};
-    const Outcome result = Invoke(words);
-    EXPECT_EQ(result.code, ExitCode::Fine) << result.err;
-    PlainFiles files;
-    RecordFiles records(files, folder);
-    // Those of the highest levels are too rare for so few tries: the files are there all the same.
-    for (int level = 1; level <= kLevels; ++level) {
-        const int count = records.PuzzleCount(level);
-        EXPECT_TRUE(level <= 6 ? count == 2 : count <= 2) << level;
-        EXPECT_TRUE(files.Size(records.PuzzlePath(level)).has_value()) << level;
-    }
-    EXPECT_NE(result.err.find("level Outlaw stays short: 0 puzzles"), std::string::npos);
-    EXPECT_FALSE(records.CreateProgressFile(4, 2).has_value());
-    const Outcome refused = Invoke(words);
-    EXPECT_EQ(refused.code, ExitCode::InputOutput);
-    EXPECT_NE(refused.err.find("progress"), std::string::npos);
-
-    const fs::path list = folder / "list.txt";
-    EXPECT_EQ(Invoke({"make-levels", "--corpus", list.string(), "--corpus-count", "4"}).code,
-              ExitCode::Fine);
-    const Outcome solved = Invoke({"solve", list.string()});
-    EXPECT_EQ(solved.code, ExitCode::Fine);
-    EXPECT_EQ(std::ranges::count(solved.out, '\n'), 4);
-    fs::remove_all(folder);
 }
 
 }  // namespace

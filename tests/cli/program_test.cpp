@@ -37,8 +37,8 @@ TEST(Program, AWrongWordIsNamed) {
         {{"find", "--technique", "zzz", "-"}, "unknown technique \"zzz\" ("},
         {{"make-levels"}, "--output DIR or --corpus FILE is missing"},
         {{"make-levels", "--output", "x", "--seed", "-1"}, "--seed is a number from 0"},
-        {{"make-levels", "--output", "x", "--count", "2x"}, ": 2x"},
-        {{"make-levels", "--corpus", "x", "--count", "2"}, "--count and --tries go with --output"},
+        {{"make-levels", "--output", "x", "--tries", "2x"}, ": 2x"},
+        {{"make-levels", "--corpus", "x", "--tries", "2"}, "--threads go with --output"},
     };
     for (const auto& [words, named] : cases) {
         const Outcome result = Invoke(words);
@@ -51,9 +51,11 @@ TEST(Program, AWrongWordIsNamed) {
 TEST(Program, HelpAndVersionAreResults) {
     EXPECT_EQ(Invoke({"--version"}).out, "vemosud 2.6\n");
     const std::string help = Invoke({"--help"}).out;
+    const std::string page = Invoke({"--man"}).out;
     for (const Command& command : Commands()) {
         const std::string name(command.name);
         EXPECT_NE(help.find("\n  " + name + " "), std::string::npos) << name;
+        EXPECT_NE(page.find("\n.SS " + name.substr(0, name.find('-'))), std::string::npos) << name;
         const Outcome own = Invoke({name, "--foo", "--help"});
         EXPECT_EQ(own.code, ExitCode::Fine) << "asked for help, nothing else matters";
         for (const Option& option : command.options) {

@@ -47,6 +47,13 @@ if [[ -c /dev/full ]]; then
 fi
 Expect 'a closed pipe' 3 'cannot be written' WriteToClosedPipe
 
+# What is installed beside the program.
+"$program" --bash-completion >"$scratch/completion" && bash -n "$scratch/completion" ||
+    Fail 'the completion is no script'
+completed=$(bash -c 'source "$1"; COMP_WORDS=(vemosud rate --t) COMP_CWORD=2; _vemosud
+    echo "${COMPREPLY[@]}"' bash "$scratch/completion")
+[[ $completed == '--timeout --threads' ]] || Fail "completed: $completed"
+
 ln -s "$scratch/out" "$scratch/link"
 Expect 'a link as the list to be written' 3 'no regular file' \
     "$program" make-levels --corpus "$scratch/link" --corpus-count 1

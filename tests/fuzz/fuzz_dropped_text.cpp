@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "game/dropped_text.h"
-#include "require.h"
+#include "target.h"
 #include "tools/formats.h"
 
 namespace vemo {
@@ -53,6 +53,8 @@ DroppedText Dropped(std::span<const std::uint8_t> content) {
     return ReadDroppedText(file, {"dropped.txt"});
 }
 
+}  // namespace
+
 void Check(std::span<const std::uint8_t> content) {
     const DroppedText dropped = Dropped(content);
     if (!dropped.error.empty()) {
@@ -69,10 +71,4 @@ void Check(std::span<const std::uint8_t> content) {
     Require(hasMark || dropped.text == Dropped(bytes).text, "a text that was read is read again");
 }
 
-}  // namespace
 }  // namespace vemo
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    vemo::Check({data, size});
-    return 0;
-}

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "require.h"
+#include "target.h"
 #include "tools/formats.h"
 #include "tools/puzzle_line.h"
 
@@ -27,7 +27,10 @@ void RequireReadable(const Digits& clues) {
             "nine lines are recognised");
 }
 
-void Check(std::string_view text) {
+}  // namespace
+
+void Check(std::span<const std::uint8_t> input) {
+    std::string_view text = TextOf(input);
     RequireReadable(ReadByPosition(text));
     if (const auto puzzle = RecognizePuzzle(text)) {
         RequireReadable(puzzle->clues);
@@ -39,10 +42,4 @@ void Check(std::string_view text) {
     }
 }
 
-}  // namespace
 }  // namespace vemo
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    vemo::Check({reinterpret_cast<const char*>(data), size});
-    return 0;
-}

@@ -1,17 +1,16 @@
 // Any bytes as a puzzle line: the reader names a fault, or what it accepts can be written and read
 // again.
-#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-#include "require.h"
+#include "target.h"
 #include "tools/puzzle_line.h"
 
 namespace vemo {
-namespace {
 
-void Check(std::string_view line) {
+void Check(std::span<const std::uint8_t> input) {
+    const std::string_view line = TextOf(input);
     const PuzzleLine puzzle = ReadPuzzleLine(line);
     const PositionLine position = ReadPositionLine(line);
     Require(!IsBlankOrComment(line) || !puzzle.IsPuzzle(), "a comment is no puzzle");
@@ -28,10 +27,4 @@ void Check(std::string_view line) {
             "a written position reads as it was");
 }
 
-}  // namespace
 }  // namespace vemo
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    vemo::Check({reinterpret_cast<const char*>(data), size});
-    return 0;
-}

@@ -7,7 +7,7 @@
 #include <span>
 
 #include "model/records.h"
-#include "require.h"
+#include "target.h"
 
 namespace vemo {
 namespace {
@@ -19,6 +19,8 @@ std::array<std::uint8_t, kSize> RecordOf(std::span<const std::uint8_t> input) {
     std::ranges::copy(input.first(std::min(input.size(), kSize)), bytes.begin());
     return bytes;
 }
+
+}  // namespace
 
 void Check(std::span<const std::uint8_t> input) {
     const PuzzleRecord puzzle = UnpackPuzzle(RecordOf<kPuzzleRecordSize>(input));
@@ -39,10 +41,4 @@ void Check(std::span<const std::uint8_t> input) {
     BelongsTo(state, puzzle);
 }
 
-}  // namespace
 }  // namespace vemo
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    vemo::Check({data, size});
-    return 0;
-}

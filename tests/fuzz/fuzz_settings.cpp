@@ -9,8 +9,8 @@
 #include "game/options.h"
 #include "model/levels.h"
 #include "platform/memory_settings.h"
-#include "require.h"
 #include "solver/settings.h"
+#include "target.h"
 
 namespace vemo {
 namespace {
@@ -49,7 +49,10 @@ void RequireTechniques(const TechniqueSettings& techniques) {
     }
 }
 
-void Check(std::string_view text) {
+}  // namespace
+
+void Check(std::span<const std::uint8_t> input) {
+    const std::string_view text = TextOf(input);
     MemorySettings store = StoreOf(text);
     const Options options = HaalOpties(store);
     const Colors colors = HaalKleuren(store);
@@ -71,10 +74,4 @@ void Check(std::string_view text) {
     Require(ReadTechniqueSettings(store) == techniques, "techniques read as they were written");
 }
 
-}  // namespace
 }  // namespace vemo
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    vemo::Check({reinterpret_cast<const char*>(data), size});
-    return 0;
-}

@@ -11,10 +11,10 @@ namespace {
 // A1, A2 and B1 are open: three hidden singles, one box after the other.
 const std::vector<int> kOpen = {0, 1, 9};
 const std::string kStart = "\r\nStart Solving\r\n";
-const std::string kThreeSteps =
-    "Hidden Single 1 in box at cell A1\r\n"
-    "Hidden Single 2 in box at cell A2\r\n"
-    "Hidden Single 4 in box at cell B1\r\n";
+const std::string kOneStep = "Hidden Single 1 in box at cell A1\r\n";
+const std::string kThreeSteps = kOneStep +
+                                "Hidden Single 2 in box at cell A2\r\n"
+                                "Hidden Single 4 in box at cell B1\r\n";
 const std::string kSolved = "SUDOKU SOLVED\r\n";
 const std::string kNotSolved = "SUDOKU NOT SOLVED\r\n";
 const std::string kSolvedText = "Autosolve completed, sudoku solved !!!";
@@ -67,7 +67,6 @@ class AutosolveTest : public GameTest {
         };
     }
     int Digit(int cell) const { return Seen().cells[static_cast<std::size_t>(cell)].digit; }
-    int Seconds() const { return game->CurrentSession().clock.Elapsed(); }
     const std::string& Log() const { return game->SolveLogText(); }
     void ExpectRange(const std::string& count, const std::string& from, const std::string& to) {
         view.ExpectQuestion("Scan 'from' number", "Enter a value between 1 and " + count, from);
@@ -93,41 +92,17 @@ TEST_F(AutosolveTest, EveryStepIsLoggedShownAndHeardAndNothingIsCounted) {
     EXPECT_EQ(Records().ReadStatistics(5).solvedCount, 0);
     EXPECT_TRUE(Records().ReadPuzzle(5, 1)->best.IsNone());
 
+    // With hidden marks it asks first; the log goes on.
     game->mnuSudokuNext();
-    game->mnuSolveAutoSolve();
-    EXPECT_EQ(Log(), kStart + kThreeSteps + kSolved + kStart + kThreeSteps.substr(0, 35) + kSolved)
-        << "the log goes on";
-}
-
-TEST_F(AutosolveTest, ChangedEntriesAreReportedFirst) {
-    files.WriteAt(Records().PuzzlePath(5), 0, Pack(PuzzleWithOpen(FirstTwoRows())));
-    OpenFirst(5);
-    Discard(8, 9);
-    game->mnuSolveAutoSolve();
-    EXPECT_EQ(Seen().textHint,
-              "The correct number is no longer shown as a possibility at cell A9 - Use [Undo] or "
-              "[Reset Cell]");
-    Assign(1, 5);
-    game->mnuSolveAutoSolve();
-    EXPECT_EQ(Seen().textHint, "Incorrect number (5) at cell A2 - Use [Undo] or [Reset Cell]");
-    EXPECT_TRUE(Seen().cells[1].isWrong);
-    EXPECT_EQ(Seconds(), 20);
-    EXPECT_EQ(sounds.played.back(), Sound::Error);
-    EXPECT_EQ(Log(), "");
-    EXPECT_FALSE(game->CurrentSession().isAutosolved);
-}
-
-TEST_F(AutosolveTest, HiddenMarksAreAskedAbout) {
-    OpenFirst(5);
     game->mnuPencilmarksMode();
-    view.Expect("Hidden pencilmarks detected", kMarksQuestion, Answer::No);
-    game->mnuSolveAutoSolve();
-    EXPECT_EQ(Log(), "");
-    EXPECT_FALSE(game->CurrentSession().isAutosolved);
-    view.Expect("Hidden pencilmarks detected", kMarksQuestion, Answer::Yes);
-    game->mnuSolveAutoSolve();
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        EXPECT_EQ(Log(), kStart + kThreeSteps + kSolved);
+        EXPECT_FALSE(game->CurrentSession().isAutosolved);
+        view.Expect("Hidden pencilmarks detected", kMarksQuestion, answer);
+        game->mnuSolveAutoSolve();
+    }
     EXPECT_TRUE(game->CurrentOptions().pencilmarks);
-    EXPECT_EQ(Seen().textHint, kSolvedText);
+    EXPECT_EQ(Log(), kStart + kThreeSteps + kSolved + kStart + kOneStep + kSolved);
 }
 
 TEST_F(AutosolveTest, BrushLinkAndSimpleModeRefuseInSilence) {
@@ -170,7 +145,7 @@ TEST_F(AutosolveTest, StopShowsTheNextStepInsteadOfTakingIt) {
         EXPECT_TRUE(Seen().Command(CommandId::SolveAutoSolve).isEnabled);
         EXPECT_FALSE(Seen().Command(CommandId::SolveStop).isEnabled);
     }
-    const std::string once = kStart + kThreeSteps.substr(0, 35);
+    const std::string once = kStart + kOneStep;
     EXPECT_EQ(Log(), once + once);
 
     // The hint can be applied, and taken back again.
@@ -220,16 +195,14 @@ TEST_F(AutosolveTest, AHintLogsItsTrialsAndNotWhatItFinds) {
 }
 
 TEST_F(AutosolveTest, ATechniqueThatHaltsShowsItsStepAndEndsTheRun) {
-    settings.Save("Technique", "Halt3", "1");
-    StartAgain();
+    game->CheckInclude(kSlots + 3);
     OpenFirst(5);
     game->mnuSolveAutoSolve();
     EXPECT_EQ(Seen().hintCaption, "Hint - Hidden single");
     EXPECT_EQ(Digit(0), 0);
     EXPECT_EQ(Log(), kStart);
     EXPECT_TRUE(game->CurrentSession().isAutosolved);
-    EXPECT_EQ(Seconds(), 0);
-    EXPECT_TRUE(Seen().canApply);
+    EXPECT_EQ(game->CurrentSession().clock.Elapsed(), 0);
     game->KeyHint();
     EXPECT_EQ(Digit(0), 1);
 }
@@ -238,13 +211,12 @@ TEST_F(AutosolveTest, TheFirstStepCutsWhatCouldBeRedone) {
     OpenFirst(5);
     Assign(9, 4);
     game->mnuSolveUndo();
-    StopAtYield(1);
-    game->mnuSolveAutoSolve();
-    EXPECT_TRUE(Seen().Command(CommandId::SolveRedo).isEnabled);
-    StopAtYield(2);
-    game->mnuSolveAutoSolve();
+    for (int yield : {1, 2}) {
+        StopAtYield(yield);
+        game->mnuSolveAutoSolve();
+        EXPECT_EQ(Seen().Command(CommandId::SolveRedo).isEnabled, Digit(0) == 0) << yield;
+    }
     EXPECT_EQ(Digit(0), 1);
-    EXPECT_FALSE(Seen().Command(CommandId::SolveRedo).isEnabled);
 }
 
 TEST_F(AutosolveTest, WithoutAStepItSaysSo) {
@@ -345,13 +317,11 @@ TEST_F(AutosolveTest, AHaltOrADamagedRecordEndsOnePuzzleAlone) {
     PuzzleRecord damaged = PuzzleWithOpen(kOpen);
     damaged.clues[5] = 12;
     files.WriteAt(Records().PuzzlePath(5), kPuzzleRecordSize, Pack(damaged));
-    settings.Save("Technique", "Halt3", "1");
-    StartAgain();
+    game->CheckInclude(kSlots + 3);
     game->mnuLevelNr(5);
     ExpectRange("3", "1", "3");
     game->mnuSolveScan();
     EXPECT_EQ(Log(), kStart + kStart);
-    EXPECT_EQ(Seen().status[1], "Number: 3");
     EXPECT_TRUE(Seen().textHint.ends_with(
         "\nScan completed: 0 of 2 sudokus solved, not solved: 1, 3, damaged: 2"));
     // Each puzzle yields once; the second time is that of the damaged one.
@@ -362,18 +332,19 @@ TEST_F(AutosolveTest, AHaltOrADamagedRecordEndsOnePuzzleAlone) {
         "\nScan stopped: 0 of 1 sudokus solved, not solved: 1, damaged: 2"));
 }
 
-TEST_F(AutosolveTest, TheRangeIsAskedForUntilItIsOne) {
-    const std::string from = "Scan 'from' number";
-    const std::string to = "Scan 'to' number";
+TEST_F(AutosolveTest, TheRangeIsAskedForUntilItIsOneWhereThereArePuzzles) {
+    const auto expectFrom = [this](std::optional<std::string> reply) {
+        view.ExpectQuestion("Scan 'from' number", "Enter a value between 1 and 3", reply);
+    };
     game->mnuLevelNr(5);
-    view.ExpectQuestion(from, "Enter a value between 1 and 3", std::nullopt);
+    expectFrom(std::nullopt);
     game->mnuSolveScan();
-    for (const char* wrong : {"0", "4", "-1", "two", "99999999999"}) {
-        view.ExpectQuestion(from, "Enter a value between 1 and 3", wrong);
+    for (const char* reply : {"0", "4", "-1", "two", "99999999999", "2"}) {
+        expectFrom(reply);
     }
-    view.ExpectQuestion(from, "Enter a value between 1 and 3", "2");
-    view.ExpectQuestion(to, "Enter a value between 2 and 3", "1");
-    view.ExpectQuestion(to, "Enter a value between 2 and 3", "  ");
+    for (const char* reply : {"1", "  "}) {
+        view.ExpectQuestion("Scan 'to' number", "Enter a value between 2 and 3", reply);
+    }
     game->mnuSolveScan();
     EXPECT_EQ(Log(), "");
 
@@ -382,10 +353,7 @@ TEST_F(AutosolveTest, TheRangeIsAskedForUntilItIsOne) {
     view.Expect("Hidden pencilmarks detected", kMarksQuestion, Answer::No);
     game->mnuSolveScan();
     EXPECT_EQ(Seen().status[1], "Number: none") << "nothing was opened";
-}
 
-TEST_F(AutosolveTest, AScanWithoutPuzzlesSaysSo) {
-    game->mnuLevelNr(5);
     files.Replace(Records().PuzzlePath(5), Bytes{});
     view.Expect("Can't open sudoku", "No Insane sudokus found to open");
     game->mnuSolveScan();
@@ -399,29 +367,39 @@ class AutosolvePlayTest : public PlayTest {
     AutosolvePlayTest() { session.level = 5; }
 };
 
-TEST_F(AutosolvePlayTest, AStaleMarkIsColouredWithAllThatItsDigitRulesOut) {
+TEST_F(AutosolvePlayTest, AMarkThatAPlacedDigitRulesOutIsReported) {
     Left(kA1, 1);
     session.grid.GiveBack(kA4, 1);
     session.grid.GiveBack(kB1, 1);
-    AutoSolve(stage);
-    EXPECT_EQ(TakeText(),
-              "Since number 1 is located at cell A1, this number cannot longer be a candidate in "
-              "that same row, column or block");
-    const Screen screen = MakeScreen(stage);
-    EXPECT_EQ(MarkIn(screen, kA4, 1).role, Role::Attacked);
-    EXPECT_EQ(MarkIn(screen, kB1, 1).role, Role::Attacked);
-    EXPECT_TRUE(CellIn(screen, kA1).isHintCell);
-    for (const char* cell : {"A9", "J1", "C3"}) {
-        EXPECT_TRUE(CellIn(screen, CellNamed(cell)).isUnitTint) << cell;
+    // A hint shows one such mark, Autosolve all of them and what the digit rules out.
+    for (void (*ask)(Stage&) : {GiveHint, AutoSolve}) {
+        const bool isHint = ask == GiveHint;
+        ask(stage);
+        EXPECT_EQ(TakeText(),
+                  "Since number 1 is located at cell A1, this number cannot longer be a candidate "
+                  "in that same row, column or block");
+        const Screen screen = MakeScreen(stage);
+        EXPECT_EQ(MarkIn(screen, kA4, 1).role, Role::Attacked);
+        EXPECT_EQ(MarkIn(screen, kB1, 1).role, isHint ? Role::None : Role::Attacked);
+        EXPECT_TRUE(CellIn(screen, kA1).isHintCell);
+        for (const char* cell : {"A9", "J1", "C3"}) {
+            EXPECT_EQ(CellIn(screen, CellNamed(cell)).isUnitTint, !isHint) << cell;
+        }
+        EXPECT_FALSE(CellIn(screen, CellNamed("D2")).isUnitTint);
+        EXPECT_EQ(LastSound(), Sound::Error);
+        EXPECT_EQ(session.clock.Elapsed(), isHint ? 10 : 20);
     }
-    EXPECT_FALSE(CellIn(screen, CellNamed("D2")).isUnitTint);
-    EXPECT_EQ(LastSound(), Sound::Error);
 }
 
 TEST_F(AutosolvePlayTest, ADeadEndIsNotSolved) {
     session.grid = GraveThatIsWrong();
     session.puzzle = RecordOf(session.grid.AllDigits());
     std::fill_n(stage.techniques.onOff.begin() + kFirstMovableSlot, 19, false);
+    // A hint that is applied leaves the right digit.
+    GiveHint(stage);
+    ApplyHint(stage);
+    EXPECT_EQ(MarksAt(CellNamed("B3")), MarkOf(7));
+    UndoStep(stage);
     AutoSolve(stage);
     EXPECT_EQ(stage.log.Text(),
               kStart + "BUG: Removed candidates from cell B3 : 5 6 7\r\n" + kNotSolved);

@@ -33,14 +33,18 @@ TEST_F(EntryTest, TheLeftButtonAssignsAndTheRightDiscards) {
     EXPECT_EQ(session.textHint, "");
 }
 
-TEST_F(EntryTest, AStepTakesTheHintAndItsColoursAway) {
+TEST_F(EntryTest, OnlyAStepTakesThePaidHintAway) {
     Left(kA1, 1);
     GiveHint(stage);
-    ASSERT_TRUE(session.hint);
+    const std::string explanation = session.textHint;
+    session.selectedCell = kA2;
+    AssignBySelection(stage, 9);
+    AssignBySelection(stage, 8);
+    EXPECT_EQ(session.textHint, explanation + "\nNumber 8 is no candidate at cell A2");
     session.brushes.Arm(2, MouseButton::Left);
     Left(kA2, 0);
     session.brushes.Arm(2, MouseButton::Left);
-    EXPECT_TRUE(session.hint) << "paint is no step";
+    EXPECT_TRUE(session.hint);
     Left(kA4, 4);
     EXPECT_FALSE(session.hint);
     EXPECT_EQ(session.hintCaption, "");
@@ -48,29 +52,29 @@ TEST_F(EntryTest, AStepTakesTheHintAndItsColoursAway) {
     EXPECT_EQ(session.brushes.CellColor(kA2), 2) << "brush paint stays";
 }
 
-TEST_F(EntryTest, WithMarksOffMarkClicksAreRefusedAndDigitKeysAssign) {
+TEST_F(EntryTest, MarksThatAreNotShownAreLeftAlone) {
+    session.selectedCell = kA1;
+    const auto expectRefused = [this](const std::string& why) {
+        Right(kA1, 1);
+        EXPECT_EQ(TakeText(), why);
+        ToggleMarkBySelection(stage, 1);
+        EXPECT_EQ(TakeText(), why);
+        EXPECT_EQ(Steps(), 0);
+    };
     stage.options.pencilmarks = false;
+    expectRefused(kMarksAreOff);
     Left(kA1, 1);
-    EXPECT_EQ(TakeText(), kMarksAreOff);
-    Right(kA1, 1);
-    EXPECT_EQ(TakeText(), kMarksAreOff);
-    ToggleMarkBySelection(stage, 1);
     EXPECT_EQ(TakeText(), kMarksAreOff);
     Left(kC1, 7);
     EXPECT_EQ(TakeText(), "");
-    EXPECT_EQ(Steps(), 0);
     session.selectedCell = kA1;
     AssignBySelection(stage, 1);
-    EXPECT_EQ(Digit(kA1), 1);
-}
+    EXPECT_EQ(Digit(kA1), 1) << "keys need no marks";
+    UndoStep(stage);
 
-TEST_F(EntryTest, InTheSimpleModeMarksAreAssignedButNotDiscarded) {
+    stage.options.pencilmarks = true;
     stage.options.pencilmarksOff = true;
-    Right(kA1, 1);
-    EXPECT_EQ(TakeText(), kMarksAreSimple);
-    ToggleMarkBySelection(stage, 1);
-    EXPECT_EQ(TakeText(), kMarksAreSimple);
-    EXPECT_EQ(Steps(), 0);
+    expectRefused(kMarksAreSimple);
     Left(kA1, 1);
     EXPECT_EQ(Digit(kA1), 1);
     session.level = 4;
@@ -104,18 +108,6 @@ TEST_F(EntryTest, KeysDoAsClicksOnTheSelectedCell) {
     ToggleMarkBySelection(stage, 1);
     EXPECT_EQ(TakeText(), "") << "clues are left alone in silence";
     EXPECT_EQ(Steps(), 3);
-}
-
-TEST_F(EntryTest, ARefusalLeavesThePaidExplanationStanding) {
-    Left(kA1, 1);
-    GiveHint(stage);
-    const std::string explanation = session.textHint;
-    ASSERT_TRUE(session.hint);
-    session.selectedCell = kA2;
-    AssignBySelection(stage, 9);
-    AssignBySelection(stage, 8);
-    EXPECT_EQ(session.textHint, explanation + "\nNumber 8 is no candidate at cell A2");
-    EXPECT_TRUE(session.hint);
 }
 
 TEST_F(EntryTest, TheSelectionMovesAroundTheEndsAndToEmptyCells) {
@@ -245,18 +237,17 @@ TEST_F(EntryTest, RestartIsANewGame) {
     EXPECT_FALSE(session.history.CanRedo());
     EXPECT_EQ(session.brushes.CellColor(kA4), kNoBrush);
     EXPECT_TRUE(session.links.All().empty());
-    EXPECT_EQ(CellIn(MakeScreen(stage), kA1).isHintCell, false);
+    EXPECT_FALSE(CellIn(MakeScreen(stage), kA1).isHintCell);
     EXPECT_EQ(session.textHint,
               "Press [Hint] if you get stuck !!! Minimize Window to pause."
               " DoubleClick this window to pop up the small Hint Window.");
     EXPECT_EQ(LastSound(), Sound::Discard);
 }
 
-TEST_F(EntryTest, SolutionShowsTheDigitsAndOnlyRestartGoesOn) {
+TEST_F(EntryTest, SolutionShowsTheDigitsAndOnlyRestartGoesOnUncounted) {
     Left(kA1, 4);
     clock.second += 60;
     ShowSolution(stage);
-    EXPECT_EQ(session.grid.AllDigits(), session.puzzle.solution);
     EXPECT_TRUE(session.grid.IsGiven(kC1));
     EXPECT_FALSE(session.grid.IsGiven(kA1));
     EXPECT_EQ(session.clock.Elapsed(), 60);
@@ -266,24 +257,18 @@ TEST_F(EntryTest, SolutionShowsTheDigitsAndOnlyRestartGoesOn) {
     session.selectedCell = kA1;
     ResetCell(stage);
     EXPECT_EQ(session.grid.AllDigits(), session.puzzle.solution);
-    EXPECT_FALSE(MakeScreen(stage).isBoardEnabled);
-    EXPECT_TRUE(MakeScreen(stage).Command(CommandId::SolveRestart).isEnabled);
-    EXPECT_FALSE(MakeScreen(stage).Command(CommandId::SolveUndo).isEnabled);
+    const Screen screen = MakeScreen(stage);
+    EXPECT_FALSE(screen.isBoardEnabled);
+    EXPECT_TRUE(screen.Command(CommandId::SolveRestart).isEnabled);
+    EXPECT_FALSE(screen.Command(CommandId::SolveUndo).isEnabled);
 
     Restart(stage);
     EXPECT_TRUE(session.IsPlaying());
-    EXPECT_EQ(Digit(kA1), 0);
-}
-
-TEST_F(EntryTest, APuzzleWhoseSolutionWasSeenIsNotCounted) {
-    Ship({PuzzleWithOpen({0, 1})});
-    StartFirst();
-    OpenFirst(1);
-    game->mnuSolveSolution();
-    game->mnuSolveRestart();
-    FillAll({0, 1});
-    EXPECT_EQ(game->CurrentSession().phase, PlayPhase::Finished);
-    EXPECT_EQ(game->CurrentSession().statistics.solvedCount, 0);
+    for (int cell : FirstTwoRows()) {
+        Left(cell, PlainSolution()[static_cast<std::size_t>(cell)]);
+    }
+    EXPECT_EQ(session.phase, PlayPhase::Finished);
+    EXPECT_EQ(session.statistics.solvedCount, 0);
 }
 
 TEST_F(EntryTest, WhileTheClockIsStoppedTheBoardIsOff) {

@@ -58,33 +58,25 @@ TEST_F(HintWindowTest, WithTheOptionAHintOpensIt) {
     EXPECT_FALSE(Window().board.legend.empty());
     // The player works on beside it: the copy shows no selection.
     EXPECT_EQ(Window().board.selectedCell, kNoCell);
+    game->mnuOptionsSmallWindow();
+    EXPECT_EQ(view.closed, std::vector<Form>{Form::FormHint});
 }
 
-TEST_F(HintWindowTest, WithoutTheOptionADoubleClickDoes) {
+TEST_F(HintWindowTest, TheWordsStandInItOrInTheSmallBox) {
     game->mnuSolveHint();
     EXPECT_EQ(view.opened, std::vector<Form>{});
     EXPECT_EQ(Seen().textHint, kExplanation);
-
     game->TextHintDblClick();
     EXPECT_EQ(view.opened, std::vector<Form>{Form::FormHint});
     EXPECT_EQ(Window().text, kExplanation);
     EXPECT_EQ(Seen().textHint, kPointer);
     game->FormUnload(Form::FormHint);
     EXPECT_EQ(Seen().textHint, kExplanation);
-}
 
-TEST_F(HintWindowTest, TheOptionBringsItAndTakesIt) {
-    game->mnuSolveHint();
+    // The option brings it. Closed by hand, a double-click brings it back as long as the option is
+    // on.
     game->mnuOptionsSmallWindow();
-    EXPECT_EQ(view.opened, std::vector<Form>{Form::FormHint});
-    EXPECT_EQ(Seen().textHint, kPointer);
-    game->mnuOptionsSmallWindow();
-    EXPECT_EQ(view.closed, std::vector<Form>{Form::FormHint});
-    game->FormUnload(Form::FormHint);
-    EXPECT_EQ(Seen().textHint, kExplanation);
-
-    // Closed by hand: a double-click brings it back as long as the option is on.
-    game->mnuOptionsSmallWindow();
+    EXPECT_EQ(view.opened.size(), 2u);
     game->FormUnload(Form::FormHint);
     EXPECT_EQ(Seen().textHint, kPointer);
     game->mnuOptionsSmallWindow();
@@ -170,7 +162,7 @@ TEST_F(HintWindowTest, ANameIsMadeFitForAFile) {
     EXPECT_EQ(Content(Pictures() / "_a_b_c_d_e_f_g_h_i_j.bmp"), view.picture);
     SaveAs("my picture.bmp");
     EXPECT_EQ(Content(Pictures() / "my picture.bmp"), view.picture);
-    view.ExpectQuestion(kSaveTitle, kSavePrompt, " .. ");
+    ExpectName(" .. ");
     view.Expect(kSaveTitle, "\" .. \" cannot be the name of a file.");
     game->mnuWindowsSave();
     SaveAs("");
@@ -184,15 +176,14 @@ TEST_F(HintWindowTest, APictureThatExistsIsAskedAbout) {
     const std::string question =
         "The file " + path.string() + " exists already. Do you want to replace it ?";
     Bar(path);
-    ExpectName("mine");
-    view.Expect(kSaveTitle, question, Answer::No);
-    game->mnuWindowsSave();
-    EXPECT_EQ(Content(path), Bytes{'x'});
-    EXPECT_FALSE(fs::exists(OtherPictures()));
-    EXPECT_EQ(Window().note, "");
-    ExpectName("mine");
-    view.Expect(kSaveTitle, question, Answer::Yes);
-    game->mnuWindowsSave();
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        EXPECT_EQ(Content(path), Bytes{'x'});
+        EXPECT_FALSE(fs::exists(OtherPictures()));
+        EXPECT_EQ(Window().note, "");
+        ExpectName("mine");
+        view.Expect(kSaveTitle, question, answer);
+        game->mnuWindowsSave();
+    }
     EXPECT_EQ(Content(path), view.picture);
 }
 

@@ -42,45 +42,37 @@ TEST_F(HintsTest, AFindIsNamedExplainedColouredAndCharged) {
     EXPECT_FALSE(Seen().cells[0].isHintCell);
     game->mnuSolveUndo();
     EXPECT_EQ(Seen().cells[0].digit, 0);
+
+    game->mnuOptionsTimer();
+    game->mnuSolveHint();
+    EXPECT_EQ(Seconds(), 20) << "nothing is charged with the timer off";
 }
 
 TEST_F(HintsTest, AWrongDigitIsReportedBeforeALostCandidateAndAnyTechnique) {
     files.WriteAt(Records().PuzzlePath(5), 0, Pack(PuzzleWithOpen(FirstTwoRows())));
     OpenFirst(5);
     Discard(8, 9);
+    const std::string lost = "The correct number is no longer shown as a possibility at cell A9";
     game->mnuSolveHint();
-    EXPECT_EQ(Seen().textHint, "The correct number is no longer shown as a possibility at cell A9");
+    EXPECT_EQ(Seen().textHint, lost);
     EXPECT_TRUE(Seen().cells[8].isHintCell);
     EXPECT_EQ(Seconds(), 10);
     EXPECT_EQ(sounds.played.back(), Sound::Error);
+    game->mnuSolveAutoSolve();
+    EXPECT_EQ(Seen().textHint, lost + " - Use [Undo] or [Reset Cell]");
+    EXPECT_EQ(Seconds(), 20);
 
     Assign(1, 5);
-    game->mnuSolveHint();
-    EXPECT_EQ(Seen().textHint, "Incorrect number (5) at cell A2 - Use [Undo] or [Reset Cell]");
-    EXPECT_TRUE(Seen().cells[1].isHintCell);
-    EXPECT_TRUE(Seen().cells[1].isWrong);
-    EXPECT_FALSE(Seen().cells[8].isHintCell);
-    EXPECT_EQ(Seconds(), 20);
-}
-
-TEST_F(HintsTest, AMarkThatAPlacedDigitRulesOutIsReported) {
-    OpenFirst(5);
-    Assign(0, 1);
-    game->mnuSudokuSave();
-    PlayState state = Records().ReadPlayState(5, 1);
-    state.pencilMarks[9] |= MarkOf(1);
-    Records().WritePlayState(5, 1, state);
-    view.Expect("Sudoku in progress", "Do you want to proceed with the last saved sudoku ?",
-                Answer::Yes);
-    settings.Save("Sudoku", "Level", "5");
-    StartAgain();
-    game->mnuSolveHint();
-    EXPECT_EQ(Seen().textHint,
-              "Since number 1 is located at cell A1, this number cannot longer be a candidate in "
-              "that same row, column or block");
-    EXPECT_TRUE(Seen().cells[0].isHintCell);
-    EXPECT_EQ(Seen().marks[9][0].role, Role::Attacked);
-    EXPECT_EQ(Seconds(), 10);
+    for (int seconds : {30, 40}) {
+        seconds == 30 ? game->mnuSolveHint() : game->mnuSolveAutoSolve();
+        EXPECT_EQ(Seen().textHint, "Incorrect number (5) at cell A2 - Use [Undo] or [Reset Cell]");
+        EXPECT_TRUE(Seen().cells[1].isHintCell);
+        EXPECT_TRUE(Seen().cells[1].isWrong);
+        EXPECT_FALSE(Seen().cells[8].isHintCell);
+        EXPECT_EQ(Seconds(), seconds);
+    }
+    EXPECT_EQ(game->SolveLogText(), "");
+    EXPECT_FALSE(game->CurrentSession().isAutosolved);
 }
 
 TEST_F(HintsTest, HiddenMarksAreAskedAbout) {
@@ -88,12 +80,12 @@ TEST_F(HintsTest, HiddenMarksAreAskedAbout) {
     game->mnuPencilmarksMode();
     const std::string question =
         "All pencilmarks must be visible to make hints available. Make them visible ?";
-    view.Expect("Hidden pencilmarks detected", question, Answer::No);
-    game->mnuSolveHint();
-    EXPECT_EQ(Seen().hintCaption, "");
-    EXPECT_EQ(Seconds(), 0);
-    view.Expect("Hidden pencilmarks detected", question, Answer::Yes);
-    game->mnuSolveHint();
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        EXPECT_EQ(Seen().hintCaption, "");
+        EXPECT_EQ(Seconds(), 0);
+        view.Expect("Hidden pencilmarks detected", question, answer);
+        game->mnuSolveHint();
+    }
     EXPECT_EQ(Seen().hintCaption, "Hint - Hidden single");
     EXPECT_TRUE(game->CurrentOptions().pencilmarks);
 }
@@ -118,12 +110,10 @@ TEST_F(HintsTest, TheSimpleModeShowsTheCellAndThenTheDigit) {
     EXPECT_TRUE(Seen().marks[0][0].isShown);
     EXPECT_EQ(Seen().cells[0].digit, 0);
     EXPECT_EQ(Seconds(), 30);
-}
 
-TEST_F(HintsTest, AChangeOfTheGridClearsAPendingShowMe) {
-    game->mnuPencilmarksOff();
-    OpenFirst(1);
+    // A change of the grid takes a pending "Show Me" back.
     game->CommandHintClick();
+    EXPECT_EQ(Seen().hintButton, "Show Me");
     game->GridMouseMove(9, 4);
     Assign(9, 4);
     EXPECT_EQ(Seen().hintButton, "Hint");
@@ -131,7 +121,6 @@ TEST_F(HintsTest, AChangeOfTheGridClearsAPendingShowMe) {
 }
 
 TEST_F(HintsTest, NothingFoundIsSaidAndNotCharged) {
-    // All cells open but the clues of a puzzle that needs more than slots 3 to 7.
     PuzzleRecord puzzle = PuzzleWithOpen({});
     puzzle.clues.fill(0);
     files.WriteAt(Records().PuzzlePath(5), 0, Pack(puzzle));
@@ -150,31 +139,19 @@ TEST_F(HintsTest, NothingFoundIsSaidAndNotCharged) {
     EXPECT_EQ(Seen().textHint, "No more logical hints, you'll have to guess");
 }
 
-TEST_F(HintsTest, StopEndsAHintAndWhileItRunsTheGameIsBusy) {
+TEST_F(HintsTest, StopEndsAHint) {
     OpenFirst(5);
     std::vector<std::string> texts;
     view.onYield = [&] {
         texts.push_back(Seen().textHint);
         EXPECT_TRUE(Seen().Command(CommandId::SolveStop).isEnabled);
-        EXPECT_FALSE(Seen().Command(CommandId::SudokuNext).isEnabled);
         Assign(0, 1);
-        game->mnuSudokuNext();
-        view.Expect("Function in progress",
-                    "Autosolve or Scan function busy, cannot quit Vemo Sudoku now.");
-        EXPECT_FALSE(game->FormQueryUnload());
         game->Run(CommandId::SolveStop);
     };
     game->mnuSolveHint();
     EXPECT_EQ(texts, std::vector<std::string>{"Scanning for Hidden Single - Please be patient"});
     EXPECT_EQ(Seen().textHint, "");
     EXPECT_EQ(Seen().cells[0].digit, 0);
-    EXPECT_EQ(Seconds(), 0);
-}
-
-TEST_F(HintsTest, WithTheTimerOffNothingIsCharged) {
-    game->mnuOptionsTimer();
-    OpenFirst(5);
-    game->mnuSolveHint();
     EXPECT_EQ(Seconds(), 0);
 }
 

@@ -7,6 +7,9 @@ namespace {
 const std::vector<int> kOpen = {0, 1, 40, 80};
 const std::string kNewSudokuTime = "New best time for this Sudoku!!!";
 const std::string kNewLevelTime = "New best time for this Level!!!";
+const std::string kEraseLevel =
+    "Do you really want to erase the best times of all Medium sudokus ?";
+const std::string kEraseAll = "Do you really want to erase all times of all levels ?";
 
 class LevelsTest : public GameTest {
   protected:
@@ -22,18 +25,31 @@ class LevelsTest : public GameTest {
         view.Expect("Congratulations", kNewSudokuTime);
         view.Expect("Congratulations", kNewLevelTime);
     }
+    void ExpectNumber(std::optional<std::string> reply) {
+        view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", std::move(reply));
+    }
+    void OpenNumber(std::optional<std::string> reply) {
+        ExpectNumber(std::move(reply));
+        game->mnuSudokuOpen();
+    }
     LevelStatistics Kept(int level) { return Records().ReadStatistics(level); }
 };
 
 TEST_F(LevelsTest, TheFirstCompletionIsTheBestOfPuzzleAndLevel) {
     OpenFirst(1);
-    EXPECT_EQ(Seen().status[0], "Level: Easy");
-    EXPECT_EQ(Seen().status[1], "Number: 1");
+    view.Expect("Sudoku not in progress",
+                "You cannot save a sudoku that hasn't been changed since it was opened !");
+    game->mnuSudokuSave();
+    Assign(0, 1);
+    game->mnuSudokuSave();
+    EXPECT_NE(Records().ReadPlayState(1, 1), PlayState{});
     ExpectBoth();
-    Complete(kOpen, 61);
-    EXPECT_EQ(Seen().status[2], "Time to Beat: 01:01");
-    EXPECT_EQ(Seen().status[3], "Level Best Time: 01:01");
-    EXPECT_EQ(Seen().status[4], "Level Average Time: 01:01");
+    Complete({1, 40, 80}, 61);
+    const std::array<std::string, kStatusPanels> status = {
+        "Level: Easy", "Number: 1", "Time to Beat: 01:01", "Level Best Time: 01:01",
+        "Level Average Time: 01:01"};
+    EXPECT_EQ(Seen().status, status);
+    EXPECT_EQ(Records().ReadPlayState(1, 1), PlayState{}) << "the saved progress is discarded";
     EXPECT_EQ(Records().ReadPuzzle(1, 1)->best, (PlayTime{1, 1}));
     EXPECT_EQ(sounds.played.size(), 0u) << "the sounds are off by default";
     EXPECT_FALSE(Seen().isBoardEnabled);
@@ -43,6 +59,8 @@ TEST_F(LevelsTest, TheFirstCompletionIsTheBestOfPuzzleAndLevel) {
         EXPECT_FALSE(Seen().Command(off).isEnabled);
     }
     EXPECT_TRUE(Seen().Command(CommandId::SudokuNext).isEnabled);
+    view.Expect("Sudoku solved", "Sudoku already solved, you can only save unsolved sudokus !");
+    game->mnuSudokuSave();
 }
 
 TEST_F(LevelsTest, TheAverageIsRoundedAndTheBestIsOnlyBeatenByLess) {
@@ -57,13 +75,11 @@ TEST_F(LevelsTest, TheAverageIsRoundedAndTheBestIsOnlyBeatenByLess) {
     EXPECT_EQ(Kept(1).totalSeconds, 3);
 
     // The same time again is no new best; it is counted all the same.
-    view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", "2");
-    game->mnuSudokuOpen();
+    OpenNumber("2");
     Complete({0, 5}, 62);
     EXPECT_EQ(Kept(1).solvedCount, 3);
     // A better puzzle time that is no better level time.
-    view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", " 3 ");
-    game->mnuSudokuOpen();
+    OpenNumber(" 3 ");
     view.Expect("Congratulations", kNewSudokuTime);
     Complete({0, 7}, 100);
     EXPECT_EQ(Seen().status[3], "Level Best Time: 01:01");
@@ -90,25 +106,23 @@ TEST_F(LevelsTest, AFullButWrongGridShowsNothing) {
     EXPECT_EQ(Kept(1).solvedCount, 0);
 }
 
-TEST_F(LevelsTest, NextCountsUpAndStartsAgainAtOne) {
-    OpenFirst(3);
-    game->mnuSudokuNext();
-    game->mnuSudokuNext();
-    EXPECT_EQ(Seen().status[1], "Number: 3");
-    game->mnuSudokuNext();
-    EXPECT_EQ(Seen().status[1], "Number: 1");
-}
-
-TEST_F(LevelsTest, NextPassesOverADamagedRecordOnceRound) {
+TEST_F(LevelsTest, NextCountsUpRoundTheLevelAndPassesOverADamagedRecord) {
     files.WriteAt(Records().PuzzlePath(1), kPuzzleRecordSize + 90, Bytes{0});
     OpenFirst(1);
     view.Expect("Can't open sudoku", "Sudoku number 2 of this level is damaged");
     game->mnuSudokuNext();
     EXPECT_EQ(Seen().status[1], "Number: 3");
-    view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", "2");
+    ExpectNumber("2");
     view.Expect("Can't open sudoku", "Sudoku number 2 of this level is damaged");
     game->mnuSudokuOpen();
     EXPECT_EQ(Seen().status[1], "Number: 3") << "the puzzle in play stays";
+    game->mnuSudokuNext();
+    EXPECT_EQ(Seen().status[1], "Number: 1");
+    // Of several in a row the first is told of.
+    files.WriteAt(Records().PuzzlePath(1), 2 * kPuzzleRecordSize + 90, Bytes{0});
+    view.Expect("Can't open sudoku", "Sudoku number 2 of this level is damaged");
+    game->mnuSudokuNext();
+    EXPECT_EQ(Seen().status[1], "Number: 1");
 }
 
 TEST_F(LevelsTest, AnEmptyLevelAndAWrongNumberAreRefused) {
@@ -119,26 +133,13 @@ TEST_F(LevelsTest, AnEmptyLevelAndAWrongNumberAreRefused) {
     EXPECT_EQ(view.beeps, 1);
     game->mnuLevelNr(1);
     for (const char* wrong : {"0", "4", "-1", "two", "1 2", "99999999999999999999"}) {
-        view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", wrong);
+        ExpectNumber(wrong);
         view.Expect("Can't open sudoku", "No Easy sudokus found to open");
         game->mnuSudokuOpen();
     }
-    view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", std::nullopt);
-    game->mnuSudokuOpen();
-    view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", "");
-    game->mnuSudokuOpen();
+    OpenNumber(std::nullopt);
+    OpenNumber("");
     EXPECT_EQ(Seen().status[1], "Number: none");
-}
-
-TEST_F(LevelsTest, SaveIsRefusedWhereThereIsNothingToSave) {
-    OpenFirst(1);
-    view.Expect("Sudoku not in progress",
-                "You cannot save a sudoku that hasn't been changed since it was opened !");
-    game->mnuSudokuSave();
-    ExpectBoth();
-    Complete(kOpen, 10);
-    view.Expect("Sudoku solved", "Sudoku already solved, you can only save unsolved sudokus !");
-    game->mnuSudokuSave();
 }
 
 TEST_F(LevelsTest, WhatWasSavedIsOfferedUntilThePlayerSavesOrCompletes) {
@@ -153,16 +154,6 @@ TEST_F(LevelsTest, WhatWasSavedIsOfferedUntilThePlayerSavesOrCompletes) {
     Complete({0, 5}, 9);
     EXPECT_FALSE(Kept(1).inProgress);
     EXPECT_EQ(Kept(1).lastNumber, 2);
-}
-
-TEST_F(LevelsTest, ACompletionDiscardsTheSavedProgress) {
-    OpenFirst(1);
-    Assign(0, 1);
-    game->mnuSudokuSave();
-    EXPECT_NE(Records().ReadPlayState(1, 1), PlayState{});
-    ExpectBoth();
-    Complete(kOpen, 9);
-    EXPECT_EQ(Records().ReadPlayState(1, 1), PlayState{});
 }
 
 TEST_F(LevelsTest, APendingLevelTakesOverAtCompletionAndOffersItsPuzzle) {
@@ -193,10 +184,9 @@ TEST_F(LevelsTest, ErasingThePuzzlesTimeTakesOffItsBestOnly) {
     EXPECT_FALSE(Seen().Command(CommandId::EraseSudokuTime).isEnabled);
     ExpectBoth();
     Complete(kOpen, 100);
-    view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", "1");
-    game->mnuSudokuOpen();
+    OpenNumber("1");
     ExpectBoth();
-    Complete(kOpen, 40);
+    Complete(kOpen, 70);
     game->Run(CommandId::EraseSudokuTime);
     EXPECT_EQ(Seen().status[2], "Time to Beat: 00:00");
     EXPECT_EQ(Kept(1).solvedCount, 1);
@@ -213,6 +203,10 @@ TEST_F(LevelsTest, ErasingALevelKeepsItsCountsAndErasingAllKeepsNothing) {
     game->mnuSudokuNext();
     ExpectBoth();
     Complete(kOpen, 50);
+    view.Expect("Erase Time", kEraseLevel, Answer::No);
+    game->mnuEraseLevelTime();
+    EXPECT_FALSE(Kept(2).best.IsNone());
+    view.Expect("Erase Time", kEraseLevel, Answer::Yes);
     game->mnuEraseLevelTime();
     EXPECT_EQ(Kept(2).solvedCount, 1);
     EXPECT_EQ(Kept(2).average, (PlayTime{0, 50}));
@@ -221,6 +215,10 @@ TEST_F(LevelsTest, ErasingALevelKeepsItsCountsAndErasingAllKeepsNothing) {
     EXPECT_TRUE(Records().ReadPuzzle(2, 1)->best.IsNone());
     EXPECT_FALSE(Records().ReadPuzzle(1, 1)->best.IsNone());
 
+    view.Expect("Erase Time", kEraseAll, Answer::No);
+    game->mnuEraseAllTime();
+    EXPECT_EQ(Kept(1).solvedCount, 1);
+    view.Expect("Erase Time", kEraseAll, Answer::Yes);
     game->mnuEraseAllTime();
     EXPECT_EQ(Kept(1).solvedCount, 0);
     EXPECT_EQ(Kept(1).lastNumber, 1);
@@ -259,15 +257,6 @@ TEST_F(LevelsTest, InAFolderThatHasGoneProgressIsSavedAndNoPuzzleFileBegun) {
     Complete({5}, 61);
     EXPECT_FALSE(files.Size(Records().PuzzlePath(1)));
     EXPECT_EQ(Kept(1).solvedCount, 1);
-}
-
-TEST_F(LevelsTest, AWriteThatFailsIsTold) {
-    OpenFirst(1);
-    Assign(0, 1);
-    std::filesystem::create_directory(Records().StatisticsPath());
-    view.Expect("File Error", "Error writing sudoku to file !");
-    game->mnuSudokuSave();
-    EXPECT_EQ(Seen().cells[0].digit, 1);
 }
 
 }  // namespace

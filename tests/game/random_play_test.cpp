@@ -9,7 +9,7 @@
 namespace vemo::test {
 namespace {
 
-constexpr unsigned kPlays = 60;
+constexpr unsigned kPlays = 150;
 constexpr int kEvents = 120;
 
 class RandomPlayTest : public GameTest {
@@ -135,6 +135,28 @@ class RandomPlayTest : public GameTest {
         }
     }
 
+    // What a file keeps of the history is undone and redone like the one in play.
+    void ExpectSavedLikePlayed() {
+        History played = Play().history;
+        Grid grid = Play().grid;
+        PlayState state;
+        state.digits = grid.AllDigits();
+        played.SaveTo(state);
+        History loaded;
+        loaded.LoadFrom(UnpackPlayState(Pack(state)));
+        // Joined entries are few: a hundred entries are far more than forty steps.
+        ASSERT_GE(loaded.StepCount(), std::min(40, played.StepCount()));
+        Grid resumed = grid;
+        while (loaded.Undo(resumed)) {
+            ASSERT_TRUE(played.Undo(grid));
+            ASSERT_EQ(resumed, grid);
+        }
+        while (loaded.Redo(resumed)) {
+            played.Redo(grid);
+        }
+        ASSERT_EQ(resumed, grid);
+    }
+
     std::mt19937 random;
     int charged = 0;
     std::vector<Digits> digitsAt;  // after so many steps, as far as they can be redone
@@ -155,6 +177,7 @@ TEST_F(RandomPlayTest, UndoAndRedoEndWhereTheyBegan) {
             continue;
         }
         ++ended;
+        ASSERT_NO_FATAL_FAILURE(ExpectSavedLikePlayed());
         RedoAll();
         const Digits end = digitsAt.back();
         ASSERT_EQ(Play().grid.AllDigits(), end);

@@ -17,6 +17,13 @@ class StartupTest : public GameTest {
         view.Expect("Quit Vemo Sudoku", kReallyQuit, Answer::Yes);
         EXPECT_TRUE(game->FormQueryUnload());
     }
+    // The first puzzle of Medium was begun, and the game quit.
+    void StartInProgress() {
+        StartFirst();
+        OpenFirst(2);
+        Assign(0, 1);
+        Quit();
+    }
 };
 
 TEST_F(StartupTest, TheFirstRunMakesFilesAndSettingsOnceAndOpensWithoutALevel) {
@@ -40,37 +47,28 @@ TEST_F(StartupTest, TheFirstRunMakesFilesAndSettingsOnceAndOpensWithoutALevel) {
     EXPECT_EQ(files.ReadAt(records.ProgressPath(1), 0, 10), Bytes(10, 7));
 }
 
-TEST_F(StartupTest, WithoutAPuzzleFileTheGameEndsAndTheNextStartTriesAgain) {
+TEST_F(StartupTest, WithoutItsFilesTheGameEndsAndTheNextStartTriesAgain) {
+    const auto expectEnd = [this](const std::string& title, const std::string& text) {
+        view.isClosed = false;
+        ExpectFirstRun();
+        view.Expect(title, text);
+        view.Expect("Initiation failed",
+                    "Failed to write sudoku logfiles, program can't continue.");
+        StartAgain();
+        EXPECT_TRUE(view.isClosed);
+        EXPECT_EQ(settings.Get("Options", "Logfiles", "False"), "False");
+    };
+    const std::filesystem::path progress = Records().ProgressPath(1);
+    std::filesystem::create_directories(progress / "in the way");
+    expectEnd("Log creation failure", "Error while processing file " + progress.string());
+    std::filesystem::remove_all(progress);
+    std::filesystem::remove(Records().PuzzlePath(3));
     std::filesystem::remove(folder.Path() / "program" / "Sudoku_Hard.sds");
-    game.emplace(platform, view);
-    view.Expect("Vemo Sudoku - 1st run initiation",
-                "A number of logfiles has to be created, normally this must be done only once on "
-                "first run of Vemo Sudoku 2. Depend on the speed of your PC, this can take a few "
-                "minutes.");
-    view.Expect("Logfile creation failure",
-                "Could not open source file " + Records().PuzzlePath(3).string());
-    view.Expect("Initiation failed", "Failed to write sudoku logfiles, program can't continue.");
-    game->FormLoad();
-    EXPECT_TRUE(view.isClosed);
-    EXPECT_EQ(settings.Get("Options", "Logfiles", "False"), "False");
-
+    expectEnd("Logfile creation failure",
+              "Could not open source file " + Records().PuzzlePath(3).string());
     ShipLevel(3, {PuzzleWithOpen(kOpen)});
     StartFirst();
     EXPECT_EQ(settings.Get("Options", "Logfiles", ""), "True");
-}
-
-TEST_F(StartupTest, AProgressFileThatCannotBeWrittenIsNamed) {
-    std::filesystem::create_directories(Records().ProgressPath(1) / "in the way");
-    game.emplace(platform, view);
-    view.Expect("Vemo Sudoku - 1st run initiation",
-                "A number of logfiles has to be created, normally this must be done only once on "
-                "first run of Vemo Sudoku 2. Depend on the speed of your PC, this can take a few "
-                "minutes.");
-    view.Expect("Log creation failure",
-                "Error while processing file " + Records().ProgressPath(1).string());
-    view.Expect("Initiation failed", "Failed to write sudoku logfiles, program can't continue.");
-    game->FormLoad();
-    EXPECT_TRUE(view.isClosed);
 }
 
 TEST_F(StartupTest, AGameQuitInTheMiddleIsResumedAsItWas) {
@@ -97,25 +95,15 @@ TEST_F(StartupTest, AGameQuitInTheMiddleIsResumedAsItWas) {
     EXPECT_FALSE(Seen().Command(CommandId::SolveUndo).isEnabled);
 }
 
-TEST_F(StartupTest, ARefusedResumeChangesMemoryOnly) {
-    StartFirst();
-    OpenFirst(2);
-    Assign(0, 1);
-    Quit();
-    view.Expect("Sudoku in progress", kProceed, Answer::No);
-    StartAgain();
-    EXPECT_EQ(Seen().status[1], "Number: none");
-    EXPECT_EQ(Seen().status[2], "Time to Beat: 00:00");
-    EXPECT_FALSE(Seen().isBoardEnabled);
-    view.Expect("Sudoku in progress", kProceed, Answer::No);
-    StartAgain();
-}
-
-TEST_F(StartupTest, ADamagedPuzzleInProgressIsReported) {
-    StartFirst();
-    OpenFirst(2);
-    Assign(0, 1);
-    Quit();
+TEST_F(StartupTest, WhatCannotOrShallNotBeResumedIsNotOpened) {
+    StartInProgress();
+    for (int start = 0; start < 2; ++start) {  // a refusal changes the memory only
+        view.Expect("Sudoku in progress", kProceed, Answer::No);
+        StartAgain();
+        EXPECT_EQ(Seen().status[1], "Number: none");
+        EXPECT_EQ(Seen().status[2], "Time to Beat: 00:00");
+        EXPECT_FALSE(Seen().isBoardEnabled);
+    }
     files.WriteAt(Records().PuzzlePath(2), 3, Bytes{200});
     view.Expect("Sudoku in progress", kProceed, Answer::Yes);
     view.Expect("File error", "Could not open the last saved sudoku");
@@ -124,10 +112,7 @@ TEST_F(StartupTest, ADamagedPuzzleInProgressIsReported) {
 }
 
 TEST_F(StartupTest, APlayStateOfAnotherPuzzleIsNoSavedState) {
-    StartFirst();
-    OpenFirst(2);
-    Assign(0, 1);
-    Quit();
+    StartInProgress();
     PlayState other;
     other.digits[0] = 9;
     Records().WritePlayState(2, 1, other);
@@ -158,6 +143,7 @@ TEST_F(StartupTest, ASaveThatFailsWhileQuittingIsToldAndLeavesTheChoice) {
     view.Expect("Quit Vemo Sudoku", "The sudoku could not be saved. Quit all the same ?",
                 Answer::No);
     EXPECT_FALSE(game->FormQueryUnload());
+    EXPECT_EQ(view.enter, EnterKey::No);
     EXPECT_EQ(Seen().cells[0].digit, 1);
 }
 

@@ -47,7 +47,10 @@ class ScriptedView final : public View {
         script_.push_back({title, prompt, Answer::Ok, std::move(reply)});
     }
 
-    Answer ShowBox(const Box& box) override { return Next(box.title, box.text).answer; }
+    Answer ShowBox(const Box& box) override {
+        enter = box.enter;
+        return Next(box.title, box.text).answer;
+    }
     std::optional<std::string> Ask(const Question& question) override {
         questions.push_back(question);
         return Next(question.title, question.prompt).reply;
@@ -81,6 +84,7 @@ class ScriptedView final : public View {
     int paused = 0;  // milliseconds
     int beeps = 0;
     std::vector<Question> questions;  // all that were asked
+    EnterKey enter = EnterKey::Yes;   // of the last box
     std::string link;
     bool isClosed = false;
     std::string expectedFileName;  // of the next question where to save
@@ -150,14 +154,16 @@ class GameTest : public ::testing::Test {
         files.Replace(folder.Path() / "program" / PuzzleFileName(level), content);
     }
 
-    // The first start, its box answered; the game has no level yet.
-    void StartFirst() {
+    void ExpectFirstRun() {
         view.Expect("Vemo Sudoku - 1st run initiation",
                     "A number of logfiles has to be created, normally this must be done only once "
                     "on first run of Vemo Sudoku 2. Depend on the speed of your PC, this can take "
                     "a few minutes.");
-        game.emplace(platform, view);
-        game->FormLoad();
+    }
+    // The first start, its box answered; the game has no level yet.
+    void StartFirst() {
+        ExpectFirstRun();
+        StartAgain();
     }
     // Another start on the same machine.
     void StartAgain() {

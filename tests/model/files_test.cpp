@@ -89,13 +89,8 @@ TEST_F(FilesTest, AProgressRecordThatIsMissingOrTornIsTheEmptyState) {
     EXPECT_EQ(files.ReadPlayState(3, 2), PlayState{});
 }
 
-TEST_F(FilesTest, ANewProgressFileHoldsOneEmptyStateAPuzzle) {
-    ASSERT_FALSE(disk.Replace(files.ProgressPath(1), Bytes(9999, 7)));
-    ASSERT_FALSE(files.CreateProgressFile(1, 4));
-    EXPECT_EQ(Content(files.ProgressPath(1)), Bytes(4u * 1449));
-}
-
 TEST_F(FilesTest, ANewProgressFileKeepsTheStatesThatBelongToTheirPuzzles) {
+    ASSERT_FALSE(disk.Replace(files.ProgressPath(1), Bytes(9999, 7)));
     PuzzleRecord puzzle = PuzzleWithBest({});
     puzzle.clues[3] = 0;
     PlayState state;
@@ -107,19 +102,18 @@ TEST_F(FilesTest, ANewProgressFileKeepsTheStatesThatBelongToTheirPuzzles) {
     ASSERT_FALSE(files.WritePlayState(1, 2, state));
     state.digits[0] = 0;
     ASSERT_FALSE(files.WritePlayState(1, 3, state));
-    ASSERT_FALSE(files.CreateProgressFile(1, 3));
-    EXPECT_EQ(disk.Size(files.ProgressPath(1)), 3u * 1449);
-    EXPECT_EQ(files.ReadPlayState(1, 1), PlayState{});
+    ASSERT_FALSE(files.CreateProgressFile(1, 4));
     EXPECT_EQ(files.ReadPlayState(1, 2).elapsed, (PlayTime{1, 2}));
-    EXPECT_EQ(files.ReadPlayState(1, 3), PlayState{});
+    Bytes others = Content(files.ProgressPath(1));
+    ASSERT_EQ(others.size(), 4u * 1449);
+    std::fill_n(others.begin() + 1449, 1449, std::uint8_t{0});
+    EXPECT_EQ(others, Bytes(4u * 1449));
 }
 
 TEST_F(FilesTest, StatisticsStandAtTheirLevelAndReadAsZeroWhereMissing) {
     LevelStatistics statistics;
     statistics.lastNumber = 17;
-    for (int level = 1; level <= kLevels; ++level) {
-        EXPECT_EQ(files.ReadStatistics(level), LevelStatistics{});
-    }
+    EXPECT_EQ(files.ReadStatistics(3), LevelStatistics{});
     ASSERT_FALSE(files.WriteStatistics(3, statistics));
     EXPECT_EQ(disk.Size(files.StatisticsPath()), 78u);
     EXPECT_EQ(Content(files.StatisticsPath())[52], 17);
@@ -150,6 +144,27 @@ TEST_F(FilesTest, ASavedPuzzleGoesAfterTheLastWholeOneWithAnEmptyProgressRecord)
     const Bytes progress = Content(files.ProgressPath(9));
     EXPECT_EQ(std::ranges::count(progress, 0), 1449);
     EXPECT_EQ(std::count(progress.begin() + 1449, progress.begin() + 2898, 0), 1449);
+}
+
+TEST_F(FilesTest, APuzzleThatCannotBeSavedLeavesThePlayStateOfTheNumberAlone) {
+    ASSERT_FALSE(disk.MakeFolder(files.PuzzlePath(2) / "in the way"));
+    PlayState state;
+    state.digits[0] = 5;
+    ASSERT_FALSE(files.WritePlayState(2, 1, state));
+    const RecordFiles::SavedPuzzle saved = files.SaveSudoku(2, PuzzleWithBest({}));
+    ASSERT_TRUE(saved.error);
+    EXPECT_EQ(saved.error->path, files.PuzzlePath(2));
+    EXPECT_EQ(files.ReadPlayState(2, 1), state);
+}
+
+TEST_F(FilesTest, ReadingALevelPassesOverDamagedRecords) {
+    EXPECT_TRUE(files.ReadPuzzles(7).empty());
+    for (int number : {1, 2, 3}) {
+        ASSERT_FALSE(files.WritePuzzle(7, number, PuzzleWithBest({number, 0})));
+    }
+    ASSERT_FALSE(disk.WriteAt(files.PuzzlePath(7), kPuzzleRecordSize, Bytes(1, 200)));
+    ASSERT_FALSE(disk.WriteAt(files.PuzzlePath(7), 3 * kPuzzleRecordSize, Bytes(100, 1)));
+    EXPECT_EQ(files.ReadPuzzles(7), (std::vector{PuzzleWithBest({1, 0}), PuzzleWithBest({3, 0})}));
 }
 
 TEST_F(FilesTest, ShippedPuzzlesAreInstalledWhereTheyAreMissing) {

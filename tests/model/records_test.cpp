@@ -29,12 +29,7 @@ PuzzleRecord Puzzle() {
 PuzzleBytes PuzzleInBytes() {
     PuzzleBytes bytes{};
     Put(bytes, 80, {8});
-    Put(bytes, 81,
-        {1, 2, 3, 4, 5, 6, 7, 8, 9, 4, 5, 6, 7, 8, 9, 1, 2, 3, 7, 8, 9, 1, 2, 3, 4, 5, 6});
-    Put(bytes, 108,
-        {2, 3, 4, 5, 6, 7, 8, 9, 1, 5, 6, 7, 8, 9, 1, 2, 3, 4, 8, 9, 1, 2, 3, 4, 5, 6, 7});
-    Put(bytes, 135,
-        {3, 4, 5, 6, 7, 8, 9, 1, 2, 6, 7, 8, 9, 1, 2, 3, 4, 5, 9, 1, 2, 3, 4, 5, 6, 7, 8});
+    std::ranges::copy(test::PlainSolution(), bytes.begin() + 81);
     Put(bytes, 162, {0x02, 0x01, 59, 0});
     return bytes;
 }
@@ -86,12 +81,8 @@ TEST(Records, AreLaidOutByteByByte) {
     EXPECT_EQ(UnpackPlayState(StateInBytes()), State());
     EXPECT_EQ(Pack(kStatistics), kStatisticsInBytes);
     EXPECT_EQ(UnpackStatistics(kStatisticsInBytes), kStatistics);
-}
-
-TEST(Records, AllZeroIsTheEmptyRecord) {
     EXPECT_EQ(UnpackPlayState(PlayStateBytes{}), PlayState{});
     EXPECT_EQ(UnpackStatistics(StatisticsBytes{}), LevelStatistics{});
-    EXPECT_TRUE(UnpackPuzzle(PuzzleBytes{}).best.IsNone());
 }
 
 struct Damage {
@@ -100,65 +91,59 @@ struct Damage {
     std::initializer_list<int> bytes;
 };
 
-PlayState Damaged(const Damage& damage) {
-    PlayStateBytes bytes = StateInBytes();
-    Put(bytes, damage.offset, damage.bytes);
-    return UnpackPlayState(bytes);
-}
-
-TEST(Records, ImpossibleDigitsOrMarksCostTheWholePlayState) {
-    for (const Damage& damage :
-         {Damage{"digit 200", 40, {200}}, Damage{"digit 10", 40, {10}},
-          Damage{"a digit twice in its row", 2, {5}}, Damage{"a mask with bit 0", 87, {0xFF, 0x03}},
-          Damage{"a mask with bit 10", 87, {0xFE, 0x07}},
-          Damage{"a negative mask", 87, {0xFE, 0xFF}},
-          Damage{"marks in a filled cell", 85, {2, 0}}}) {
-        EXPECT_EQ(Damaged(damage), PlayState{}) << damage.what;
-    }
-}
-
-TEST(Records, AnImpossibleElapsedTimeCostsNothingElse) {
-    PlayState expected = State();
-    expected.elapsed = {};
-    for (const Damage& damage :
-         {Damage{"seconds 90", 83, {90}}, Damage{"seconds 60", 83, {60}},
-          Damage{"seconds -1", 83, {0xFF, 0xFF}}, Damage{"minutes -1", 81, {0xFF, 0xFF}}}) {
-        EXPECT_EQ(Damaged(damage), expected) << damage.what;
-    }
-}
-
-TEST(Records, AnImpossibleHistoryCostsNothingElse) {
-    PlayState expected = State();
-    expected.undoCount = 0;
-    expected.history = {};
-    for (const Damage& damage :
-         {Damage{"UndoCount 5000", 247, {0x88, 0x13}}, Damage{"UndoCount 101", 247, {101}},
-          Damage{"UndoCount -1", 247, {0xFF, 0xFF}}, Damage{"undo cell 81", 251, {81}},
-          Damage{"undo cell -1", 249, {0xFF, 0xFF}}, Damage{"undo marks 512", 451, {0, 2}},
-          Damage{"undo digit 10", 649, {10}}, Damage{"a negative kind", 649, {1, 0x80}},
-          Damage{"a negative row mask", 849, {0xFF, 0xFF}}, Damage{"column mask 512", 1049, {0, 2}},
-          Damage{"box mask 512", 1251, {0, 2}}}) {
-        EXPECT_EQ(Damaged(damage), expected) << damage.what;
-    }
+TEST(Records, WhatIsImpossibleInAPlayStateCostsNoMoreThanItMust) {
+    const auto expectLeft = [](const PlayState& expected, std::initializer_list<Damage> damages) {
+        for (const Damage& damage : damages) {
+            PlayStateBytes bytes = StateInBytes();
+            Put(bytes, damage.offset, damage.bytes);
+            EXPECT_EQ(UnpackPlayState(bytes), expected) << damage.what;
+        }
+    };
+    expectLeft(PlayState{}, {{"digit 200", 40, {200}},
+                             {"digit 10", 40, {10}},
+                             {"a digit twice in its row", 2, {5}},
+                             {"a mask with bit 0", 87, {0xFF, 0x03}},
+                             {"a mask with bit 10", 87, {0xFE, 0x07}},
+                             {"a negative mask", 87, {0xFE, 0xFF}},
+                             {"marks in a filled cell", 85, {2, 0}}});
+    PlayState withoutTime = State();
+    withoutTime.elapsed = {};
+    expectLeft(withoutTime, {{"seconds 90", 83, {90}},
+                             {"seconds 60", 83, {60}},
+                             {"seconds -1", 83, {0xFF, 0xFF}},
+                             {"minutes -1", 81, {0xFF, 0xFF}}});
+    PlayState withoutHistory = State();
+    withoutHistory.undoCount = 0;
+    withoutHistory.history = {};
+    expectLeft(withoutHistory, {{"UndoCount 5000", 247, {0x88, 0x13}},
+                                {"UndoCount 101", 247, {101}},
+                                {"UndoCount -1", 247, {0xFF, 0xFF}},
+                                {"undo cell 81", 251, {81}},
+                                {"undo cell -1", 249, {0xFF, 0xFF}},
+                                {"undo marks 512", 451, {0, 2}},
+                                {"undo digit 10", 649, {10}},
+                                {"a negative kind", 649, {1, 0x80}},
+                                {"a negative row mask", 849, {0xFF, 0xFF}},
+                                {"column mask 512", 1049, {0, 2}},
+                                {"box mask 512", 1251, {0, 2}}});
     // Only the entries that count are looked at.
-    EXPECT_EQ(Damaged({"cell 81 in entry 3 of 2", 253, {81}}).undoCount, 2);
-}
-
-TEST(Records, AnImpossibleBestTimeLeavesThePuzzleWhole) {
-    PuzzleBytes bytes = PuzzleInBytes();
-    Put(bytes, 164, {90});
-    PuzzleRecord expected = Puzzle();
-    expected.best = {};
-    EXPECT_EQ(UnpackPuzzle(bytes), expected);
-    EXPECT_TRUE(IsWhole(UnpackPuzzle(bytes)));
+    PlayState unused = State();
+    unused.history[2].cell = 81;
+    expectLeft(unused, {{"cell 81 in entry 3 of 2", 253, {81}}});
 }
 
 TEST(Records, APuzzleIsWholeWhenItsSolutionIsOneOfItsClues) {
-    EXPECT_TRUE(IsWhole(Puzzle()));
-    for (const Damage& damage :
-         {Damage{"clue 200", 80, {200}}, Damage{"a clue that the solution lacks", 0, {2}},
-          Damage{"solution digit 0", 100, {0}}, Damage{"solution digit 10", 100, {10}},
-          Damage{"a solution with a digit twice", 81, {2}}}) {
+    PuzzleRecord untimed = Puzzle();
+    untimed.best = {};
+    PuzzleBytes impossibleTime = PuzzleInBytes();
+    Put(impossibleTime, 164, {90});
+    EXPECT_EQ(UnpackPuzzle(impossibleTime), untimed);
+    EXPECT_TRUE(IsWhole(untimed));
+    for (const Damage& damage : {Damage{"clue 200", 80, {200}},
+                                 {"a clue that the solution lacks", 0, {2}},
+                                 {"solution digit 0", 100, {0}},
+                                 {"solution digit 10", 100, {10}},
+                                 {"a solution with a digit twice", 81, {2}}}) {
         PuzzleBytes bytes = PuzzleInBytes();
         Put(bytes, damage.offset, damage.bytes);
         EXPECT_FALSE(IsWhole(UnpackPuzzle(bytes))) << damage.what;

@@ -11,25 +11,16 @@
 namespace vemo {
 namespace {
 
-TEST(Units, RowsAreNamedWithoutAnI) {
-    std::string rows;
-    for (int row = 0; row < 9; ++row) {
-        rows += RowLetter(row);
+TEST(Units, CellsAreNamedByRowAndColumnWithoutAnI) {
+    const std::string rows = "ABCDEFGHJ";
+    for (int cell = 0; cell < kCells; ++cell) {
+        EXPECT_EQ(CellName(cell),
+                  rows[static_cast<std::size_t>(cell / 9)] + std::to_string(cell % 9 + 1));
     }
-    EXPECT_EQ(rows, "ABCDEFGHJ");
-    EXPECT_EQ(CellName(0), "A1");
-    EXPECT_EQ(CellName(8), "A9");
-    EXPECT_EQ(CellName(40), "E5");
-    EXPECT_EQ(CellName(72), "J1");
-    EXPECT_EQ(CellName(80), "J9");
 }
 
 TEST(Units, ABoxIsFoundFromItsCellsAndBack) {
-    EXPECT_EQ(CellBox(0), 0);
-    EXPECT_EQ(CellBox(40), 4);
-    EXPECT_EQ(CellBox(80), 8);
     EXPECT_EQ(CellBox(33), 5);
-    EXPECT_EQ(CellBoxStart(40), 30);
     EXPECT_EQ(BoxStart(8), 60);
     EXPECT_EQ(BoxCell(5, 5), 44);
     for (int cell = 0; cell < kCells; ++cell) {
@@ -45,7 +36,6 @@ TEST(Units, EveryCellStandsInOneUnitOfEachKindAndSeesTwentyOthers) {
                               (other / 27 == cell / 27 && other % 9 / 3 == cell % 9 / 3);
             EXPECT_EQ(Peers(cell).Has(other), sees && other != cell);
         }
-        EXPECT_EQ(Peers(cell).Count(), 20);
         for (UnitKind kind : kUnitKinds) {
             const Unit& unit = UnitAround(kind, cell);
             EXPECT_EQ(unit.kind, kind);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <random>
 #include <string>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -28,7 +29,7 @@ class PlainFilesTest : public testing::Test {
     }
 
     test::TempFolder folder;
-    PlainFiles files;
+    PlainFiles files{"me"};
 };
 
 // The errors name the file that the caller meant, and say why.
@@ -71,11 +72,6 @@ TEST_F(PlainFilesTest, AFileIsWhatItsWritesLeft) {
         ASSERT_EQ(Content(path), expected) << "after write " << k;
     }
     EXPECT_EQ(FilesInFolder(), 1);
-}
-
-TEST_F(PlainFilesTest, AGapBeforeTheFirstWriteIsZero) {
-    ASSERT_FALSE(files.WriteAt(folder / "file", 5, BytesOf("x")));
-    EXPECT_EQ(Content(folder / "file"), (Bytes{0, 0, 0, 0, 0, 'x'}));
 }
 
 TEST_F(PlainFilesTest, ReplacePutsAWholeNewContent) {
@@ -125,6 +121,37 @@ TEST_F(PlainFilesTest, AReplaceThatCannotBeRenamedLeavesNothingBeside) {
     EXPECT_EQ(FilesInFolder(), 1);
 }
 
+// Another program is at one of them still.
+TEST_F(PlainFilesTest, WhatAKilledProgramLeftHalfWrittenGoesWithTheNextReplace) {
+    for (const char* name :
+         {"file.vemo-1.new", "file.vemo-2.new", "file.new", "other.vemo-1.new"}) {
+        ASSERT_FALSE(files.Replace(folder / name, BytesOf("half")));
+        if (std::string_view(name) != "file.vemo-2.new") {
+            fs::last_write_time(folder / name,
+                                fs::file_time_type::clock::now() - std::chrono::hours(1));
+        }
+    }
+    ASSERT_FALSE(files.Replace(folder / "file", BytesOf("whole")));
+    EXPECT_FALSE(files.Size(folder / "file.vemo-1.new"));
+    EXPECT_EQ(FilesInFolder(), 4);
+}
+
+TEST_F(PlainFilesTest, TwoProgramsThatReplaceAFileAtOnceDisturbNeither) {
+    const auto replaceOften = [path = folder / "file"](char letter) {
+        PlainFiles own;
+        for (int round = 0; round < 100; ++round) {
+            const auto error = own.Replace(path, Bytes(5000, static_cast<std::uint8_t>(letter)));
+            ASSERT_FALSE(error) << error->reason;
+        }
+    };
+    std::thread other(replaceOften, 'a');
+    replaceOften('b');
+    other.join();
+    const Bytes content = Content(folder / "file");
+    EXPECT_EQ(content, Bytes(5000, content.front()));
+    EXPECT_EQ(FilesInFolder(), 1);
+}
+
 TEST_F(PlainFilesTest, AFullDiskIsReportedAndLeavesTheOldFile) {
     const fs::path full = "/dev/full";
     if (!fs::exists(full)) {
@@ -136,11 +163,11 @@ TEST_F(PlainFilesTest, AFullDiskIsReportedAndLeavesTheOldFile) {
     const fs::path path = folder / "file";
     const Bytes old(5000, 'o');
     ASSERT_FALSE(files.Replace(path, old));
-    fs::create_symlink(full, folder / "file.new");
+    fs::create_symlink(full, folder / "file.vemo-me.new");
     ExpectErrorAt(files.Replace(path, BytesOf("new")), path);
     EXPECT_EQ(FilesInFolder(), 1);
 
-    fs::create_symlink(full, folder / "file.new");
+    fs::create_symlink(full, folder / "file.vemo-me.new");
     ExpectErrorAt(files.WriteAt(path, 4000, Bytes(200)), path);
     EXPECT_EQ(Content(path), old);
 }

@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QPushButton>
 
 namespace vemo::test {
 
@@ -28,7 +29,9 @@ void BoxScript::Look() {
     }
     const bool isExpected = !expected_.empty() && expected_.front().title == box->windowTitle() &&
                             expected_.front().text == box->text() &&
-                            box->button(expected_.front().press) != nullptr;
+                            box->button(expected_.front().press) != nullptr &&
+                            (expected_.front().enter == QMessageBox::NoButton ||
+                             box->defaultButton() == box->button(expected_.front().enter));
     if (!isExpected) {
         faults_ << u"unexpected: %1: %2"_s.arg(box->windowTitle(), box->text());
         box->escapeButton()->click();

@@ -12,6 +12,7 @@ struct ExpectedBox {
     QString title;
     QString text;
     QMessageBox::StandardButton press;
+    QMessageBox::StandardButton enter = QMessageBox::NoButton;  // the default, where it matters
 };
 
 class BoxScript final : public QObject {

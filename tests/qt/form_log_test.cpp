@@ -24,21 +24,145 @@ class FormLogTest final : public QObject {
 
   private Q_SLOTS:
     void init() {
-        fixture_ = std::make_unique<WindowFixture>(QStringLiteral(VEMO_ASSETS));
+        fixture_ = std::make_unique<WindowFixture>();
         fixture_->OpenFirstEasy();
     }
-    void cleanup() {
-        QCOMPARE(fixture_->boxes.TakeFaults(), QString());
-        fixture_.reset();
+    void cleanup() { fixture_.reset(); }
+
+    void AnEmptyLogSaysWhatToDo() {
+        Open();
+        QVERIFY(Text().placeholderText().contains(u"Autosolve"_s));
+        for (const char* caption : {"Save As...", "Print...", "Copy", "Select All", "Find..."}) {
+            QVERIFY2(!Entry(QString::fromLatin1(caption))->isEnabled(), caption);
+        }
+        Key(Qt::Key_W, Qt::ControlModifier);
+        QVERIFY(!Log().isVisible());
+        Open();
+        QVERIFY(Log().isVisible());
     }
 
-    void AnEmptyLogSaysWhatToDo();
-    void AutosolveWritesBeforeTheReadersEyes();
-    void AReaderInTheMidstStaysThere();
-    void IsCopiedAndSaved();
-    void ATextIsFoundFromEitherSide();
-    void EscClosesTheFindLineThenTheWindow();
-    void APrintHasAsManyPagesAsItNeeds();
+    void AutosolveWritesBeforeTheReadersEyes() {
+        Open();
+        bool wasSeenGrowing = false;
+        QTimer watcher;
+        QObject::connect(&watcher, &QTimer::timeout, &watcher, [&] {
+            if (!fixture_->game.CurrentSession().IsBusy() || Shown().count(u'\n') < 3) {
+                return;
+            }
+            wasSeenGrowing = true;
+            QVERIFY(Written().startsWith(Shown()));
+            QVERIFY(!Entry(u"Save As..."_s)->isEnabled());
+            QVERIFY(!Entry(u"Print..."_s)->isEnabled());
+            fixture_->Find<QPushButton>("CommandStop").click();
+        });
+        watcher.start(20);
+        fixture_->game.mnuSolveAutoSolve();
+        watcher.stop();
+        QVERIFY(wasSeenGrowing);
+        QVERIFY(fixture_->game.CurrentSession().grid.EmptyCount() > 0);
+        QVERIFY(Entry(u"Save As..."_s)->isEnabled());
+        // What is written while the window is closed is there when it opens again.
+        Log().close();
+        Solve();
+        Open();
+        QVERIFY(Shown().endsWith(u"SUDOKU SOLVED\n"_s));
+        QCOMPARE(Shown(), Written());
+    }
+
+    void AReaderInTheMidstStaysThere() {
+        Open();
+        QScrollBar& bar = *Text().verticalScrollBar();
+        while (bar.maximum() < 5) {
+            Solve();
+        }
+        QCOMPARE(bar.value(), bar.maximum());
+        Solve();
+        QCOMPARE(bar.value(), bar.maximum());
+        bar.setValue(2);
+        const int before = bar.maximum();
+        Solve();
+        QVERIFY(bar.maximum() > before);
+        QCOMPARE(bar.value(), 2);
+    }
+
+    void IsCopiedAndSaved() {
+        Solve();
+        Open();
+        Key(Qt::Key_A, Qt::ControlModifier);
+        Key(Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), Written());
+        const QString path = fixture_->data.filePath(u"mine"_s);
+        QTimer::singleShot(100, &Log(), [&path] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog != nullptr);
+            dialog->findChild<QLineEdit*>()->setText(path);
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        Key(Qt::Key_S, Qt::ControlModifier);
+        QFile file(path + u".txt"_s);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll().toStdString(), fixture_->game.SolveLogText());
+    }
+
+    void ATextIsFoundFromEitherSide() {
+        Solve();
+        Solve();
+        Open();
+        Key(Qt::Key_F, Qt::ControlModifier);
+        auto& wanted = fixture_->Find<QLineEdit>("TextFind");
+        QVERIFY(wanted.hasFocus());
+        QCOMPARE(wanted.grab().toImage().pixelColor(wanted.width() - 8, wanted.height() / 2),
+                 wanted.palette().color(QPalette::Base));
+        const auto selection = [this] { return Text().textCursor().selectionStart(); };
+        const int first = static_cast<int>(Shown().indexOf(u"SOLVED"_s));
+        const int second = static_cast<int>(Shown().lastIndexOf(u"SOLVED"_s));
+        QVERIFY(first != second);
+        QTest::keyClicks(&wanted, u"solved"_s);
+        QCOMPARE(selection(), first);
+        Key(Qt::Key_Return);
+        QCOMPARE(selection(), second);
+        Key(Qt::Key_Return);
+        QCOMPARE(selection(), first);
+        Key(Qt::Key_Return, Qt::ShiftModifier);
+        QCOMPARE(selection(), second);
+        QTest::keyClicks(&wanted, u"?"_s);
+        QCOMPARE(fixture_->Find<QLabel>("LabelFound").text(), u"Not found"_s);
+        // Esc closes the line, then the window.
+        Key(Qt::Key_Escape);
+        QVERIFY(!fixture_->Find<QWidget>("FindBar").isVisible());
+        QVERIFY(Log().isVisible());
+        Key(Qt::Key_Escape);
+        QVERIFY(!Log().isVisible());
+        QVERIFY(fixture_->window.isVisible());
+    }
+
+    void APrintHasAsManyPagesAsItNeeds() {
+        const QString line = u"Hidden Single 1 in box at cell A1\n"_s;
+        const auto print = [this](const QString& text, int fromPage, int toPage) {
+            QPrinter printer(QPrinter::HighResolution);
+            printer.setOutputFileName(fixture_->data.filePath(u"log.pdf"_s));
+            if (fromPage != 0) {
+                printer.setPrintRange(QPrinter::PageRange);
+                printer.setFromTo(fromPage, toPage);
+            }
+            return PrintText(printer, u"Solve log"_s, text);
+        };
+        const auto pagesOnPaper = [this] {
+            QFile file(fixture_->data.filePath(u"log.pdf"_s));
+            return file.open(QIODevice::ReadOnly) ? file.readAll().count("/Type /Page\n") : 0;
+        };
+        QCOMPARE(print(line, 0, 0), 1);
+        const int pages = print(line.repeated(1000), 0, 0);
+        QVERIFY(pages > 9);
+        QCOMPARE(pagesOnPaper(), pages);
+        // A line that is too wide goes on in the next.
+        QVERIFY(print(line.repeated(1000).remove(u'\n'), 0, 0) > 3);
+        QCOMPARE(print(line.repeated(1000), 2, 4), pages);
+        QCOMPARE(pagesOnPaper(), 3);
+        QPrinter nowhere;
+        nowhere.setOutputFileName(fixture_->data.filePath(u"no/such/folder.pdf"_s));
+        QCOMPARE(PrintText(nowhere, u"Solve log"_s, line), 0);
+    }
 
   private:
     QWidget& Log() const { return fixture_->Find<QWidget>("FormLog"); }
@@ -47,10 +171,37 @@ class FormLogTest final : public QObject {
     QString Written() const {
         return QString::fromStdString(fixture_->game.SolveLogText()).remove(u'\r');
     }
-    QAction* Entry(const QString& caption) const;
-    void Open() const;
+    QAction* Entry(const QString& caption) const {
+        for (QAction* action : Log().findChildren<QAction*>()) {
+            if (action->text().remove(u'&') == caption) {
+                return action;
+            }
+        }
+        qFatal("the log has no such entry");
+        return nullptr;
+    }
+
+    void Open() const {
+        fixture_->ClickMenu(CommandId::SolveLog);
+        QVERIFY(QTest::qWaitForWindowActive(&Log()));
+    }
+
     // Autosolves, in no time.
-    void Solve() const;
+    // The next puzzle; all but one of its cells are filled first.
+    void Solve() const {
+        Game& game = fixture_->game;
+        game.mnuSudokuNext();
+        const Digits& solution = fixture_->Solution();
+        int left = 0;
+        for (int cell = 0; cell < kCells; ++cell) {
+            const auto index = static_cast<std::size_t>(cell);
+            if (fixture_->Shown().cells[index].digit == 0 && ++left > 1) {
+                game.GridMouseUp(cell, solution[index], MouseButton::Left, Released::Inside);
+            }
+        }
+        game.mnuSolveAutoSolve();
+    }
+
     static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
@@ -58,180 +209,8 @@ class FormLogTest final : public QObject {
     std::unique_ptr<WindowFixture> fixture_;
 };
 
-QAction* FormLogTest::Entry(const QString& caption) const {
-    for (QMenu* menu : Log().findChildren<QMenu*>()) {
-        for (QAction* action : menu->actions()) {
-            if (action->text().remove(u'&') == caption) {
-                return action;
-            }
-        }
-    }
-    qFatal("the log has no such entry");
-    return nullptr;
-}
-
-void FormLogTest::Open() const {
-    fixture_->ClickMenu(CommandId::SolveLog);
-    QVERIFY(QTest::qWaitForWindowActive(&Log()));
-}
-
-// The next puzzle; all but one of its cells are filled first.
-void FormLogTest::Solve() const {
-    Game& game = fixture_->game;
-    game.mnuSudokuNext();
-    const Digits& solution = fixture_->Solution();
-    int left = 0;
-    for (int cell = 0; cell < kCells; ++cell) {
-        const auto index = static_cast<std::size_t>(cell);
-        if (fixture_->Shown().cells[index].digit == 0 && ++left > 1) {
-            game.GridMouseUp(cell, solution[index], MouseButton::Left, Released::Inside);
-        }
-    }
-    game.mnuSolveAutoSolve();
-}
-
-void FormLogTest::AnEmptyLogSaysWhatToDo() {
-    Open();
-    QVERIFY(Text().placeholderText().contains(u"Autosolve"_s));
-    for (const char* caption : {"Save As...", "Print...", "Copy", "Select All", "Find..."}) {
-        QVERIFY2(!Entry(QString::fromLatin1(caption))->isEnabled(), caption);
-    }
-    Key(Qt::Key_W, Qt::ControlModifier);
-    QVERIFY(!Log().isVisible());
-    Open();
-    QVERIFY(Log().isVisible());
-}
-
-void FormLogTest::AutosolveWritesBeforeTheReadersEyes() {
-    Open();
-    bool wasSeenGrowing = false;
-    QTimer watcher;
-    QObject::connect(&watcher, &QTimer::timeout, &watcher, [&] {
-        if (!fixture_->game.CurrentSession().IsBusy() || Shown().count(u'\n') < 3) {
-            return;
-        }
-        wasSeenGrowing = true;
-        QVERIFY(Written().startsWith(Shown()));
-        QVERIFY(!Entry(u"Save As..."_s)->isEnabled());
-        QVERIFY(!Entry(u"Print..."_s)->isEnabled());
-        fixture_->Find<QPushButton>("CommandStop").click();
-    });
-    watcher.start(20);
-    fixture_->game.mnuSolveAutoSolve();
-    watcher.stop();
-    QVERIFY(wasSeenGrowing);
-    QVERIFY(fixture_->game.CurrentSession().grid.EmptyCount() > 0);
-    QVERIFY(Entry(u"Save As..."_s)->isEnabled());
-    // What is written while the window is closed is there when it opens again.
-    Log().close();
-    Solve();
-    Open();
-    QVERIFY(Shown().endsWith(u"SUDOKU SOLVED\n"_s));
-    QCOMPARE(Shown(), Written());
-}
-
-void FormLogTest::AReaderInTheMidstStaysThere() {
-    Open();
-    QScrollBar& bar = *Text().verticalScrollBar();
-    while (bar.maximum() < 5) {
-        Solve();
-    }
-    QCOMPARE(bar.value(), bar.maximum());
-    Solve();
-    QCOMPARE(bar.value(), bar.maximum());
-    bar.setValue(2);
-    const int before = bar.maximum();
-    Solve();
-    QVERIFY(bar.maximum() > before);
-    QCOMPARE(bar.value(), 2);
-}
-
-void FormLogTest::IsCopiedAndSaved() {
-    Solve();
-    Open();
-    Key(Qt::Key_A, Qt::ControlModifier);
-    Key(Qt::Key_C, Qt::ControlModifier);
-    QCOMPARE(QGuiApplication::clipboard()->text(), Written());
-    const QString path = fixture_->data.filePath(u"mine"_s);
-    QTimer::singleShot(100, &Log(), [&path] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        QVERIFY(dialog != nullptr);
-        dialog->findChild<QLineEdit*>()->setText(path);
-        QMetaObject::invokeMethod(dialog, "accept");
-    });
-    Key(Qt::Key_S, Qt::ControlModifier);
-    QFile file(path + u".txt"_s);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll().toStdString(), fixture_->game.SolveLogText());
-}
-
-void FormLogTest::ATextIsFoundFromEitherSide() {
-    Solve();
-    Solve();
-    Open();
-    Key(Qt::Key_F, Qt::ControlModifier);
-    auto& wanted = fixture_->Find<QLineEdit>("TextFind");
-    QVERIFY(wanted.hasFocus());
-    const auto selection = [this] { return Text().textCursor().selectionStart(); };
-    const int first = static_cast<int>(Shown().indexOf(u"SOLVED"_s));
-    const int second = static_cast<int>(Shown().lastIndexOf(u"SOLVED"_s));
-    QVERIFY(first != second);
-    QTest::keyClicks(&wanted, u"solved"_s);
-    QCOMPARE(selection(), first);
-    Key(Qt::Key_Return);
-    QCOMPARE(selection(), second);
-    Key(Qt::Key_Return);
-    QCOMPARE(selection(), first);
-    Key(Qt::Key_Return, Qt::ShiftModifier);
-    QCOMPARE(selection(), second);
-    QTest::keyClicks(&wanted, u"?"_s);
-    QCOMPARE(fixture_->Find<QLabel>("LabelFound").text(), u"Not found"_s);
-}
-
-void FormLogTest::EscClosesTheFindLineThenTheWindow() {
-    Solve();
-    Open();
-    Key(Qt::Key_F, Qt::ControlModifier);
-    Key(Qt::Key_Escape);
-    QVERIFY(!fixture_->Find<QWidget>("FindBar").isVisible());
-    QVERIFY(Log().isVisible());
-    Key(Qt::Key_Escape);
-    QVERIFY(!Log().isVisible());
-    QVERIFY(fixture_->window.isVisible());
-}
-
-void FormLogTest::APrintHasAsManyPagesAsItNeeds() {
-    const QString line = u"Hidden Single 1 in box at cell A1\n"_s;
-    const auto print = [this](const QString& text, int fromPage, int toPage) {
-        QPrinter printer(QPrinter::HighResolution);
-        printer.setOutputFileName(fixture_->data.filePath(u"log.pdf"_s));
-        if (fromPage != 0) {
-            printer.setPrintRange(QPrinter::PageRange);
-            printer.setFromTo(fromPage, toPage);
-        }
-        return PrintText(printer, u"Solve log"_s, text);
-    };
-    const auto pagesOnPaper = [this] {
-        QFile file(fixture_->data.filePath(u"log.pdf"_s));
-        return file.open(QIODevice::ReadOnly) ? file.readAll().count("/Type /Page\n") : 0;
-    };
-    QCOMPARE(print(line, 0, 0), 1);
-    const int pages = print(line.repeated(1000), 0, 0);
-    QVERIFY(pages > 9);
-    QCOMPARE(pagesOnPaper(), pages);
-    // A line that is too wide goes on in the next.
-    QVERIFY(print(line.repeated(1000).remove(u'\n'), 0, 0) > 3);
-    QCOMPARE(print(line.repeated(1000), 2, 4), pages);
-    QCOMPARE(pagesOnPaper(), 3);
-    QPrinter nowhere;
-    nowhere.setOutputFileName(fixture_->data.filePath(u"no/such/folder.pdf"_s));
-    QCOMPARE(PrintText(nowhere, u"Solve log"_s, line), 0);
-}
-
 }  // namespace vemo::test
 
-int main(int argc, char** argv) {
-    return vemo::test::RunWindowTests<vemo::test::FormLogTest>(argc, argv);
-}
+VEMO_WINDOW_TESTS(vemo::test::FormLogTest)
 
 #include "form_log_test.moc"

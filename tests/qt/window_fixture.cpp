@@ -7,8 +7,8 @@ namespace vemo::test {
 
 using namespace Qt::StringLiterals;
 
-WindowFixture::WindowFixture(const QString& assets)
-    : folders(assets.toStdU16String(), data.path().toStdU16String()),
+WindowFixture::WindowFixture()
+    : folders(VEMO_ASSETS, data.path().toStdU16String()),
       game({settings, folders, files, sounds, clock}, view),
       window(game) {
     view.Attach(&window);
@@ -20,6 +20,12 @@ WindowFixture::WindowFixture(const QString& assets)
     game.FormLoad();
     window.show();
     Activate();
+}
+
+WindowFixture::~WindowFixture() {
+    if (const QString faults = boxes.TakeFaults(); !faults.isEmpty()) {
+        QTest::qFail(qPrintable(faults), __FILE__, __LINE__);
+    }
 }
 
 // Without a window manager nobody does it when a box closes.

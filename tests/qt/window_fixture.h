@@ -24,7 +24,9 @@ namespace vemo::test {
 class WindowFixture {
   public:
     // Shown and active, the first run's box answered; no level is chosen yet.
-    explicit WindowFixture(const QString& assets);
+    WindowFixture();
+    // Fails where boxes were not as expected.
+    ~WindowFixture();
 
     const Screen& Shown() const { return game.Current(); }
     const Digits& Solution() const { return game.CurrentSession().puzzle.solution; }
@@ -74,3 +76,8 @@ int RunWindowTests(int argc, char** argv) {
 }
 
 }  // namespace vemo::test
+
+#define VEMO_WINDOW_TESTS(Test)                              \
+    int main(int argc, char** argv) {                        \
+        return vemo::test::RunWindowTests<Test>(argc, argv); \
+    }

@@ -115,7 +115,7 @@ TEST(Bifurcation, AHintLogsItsTrialsButPlacesNothing) {
 
 TEST(Bifurcation, OnlyBivalueCellsAreTriedByDigitThenCell) {
     EXPECT_TRUE(RunTrials(Grid(), Mode::Apply).log.empty());
-    const Grid grid = GridWith({{kNoUnit, "89", "A2"}, {kNoUnit, "38", "J9"}});
+    const Grid grid = GridWith({Only("89", "A2"), Only("38", "J9")});
     const TrialRun run = RunTrials(grid, Mode::Apply);
     std::vector<std::string> attempts;
     std::ranges::copy_if(run.log, std::back_inserter(attempts),
@@ -140,7 +140,7 @@ TEST(Bifurcation, ItCanBeStoppedInTheMiddleOfATrial) {
 }
 
 TEST(Bifurcation, ACellWithOneCandidateStaysAsTheTrialLeftItAndItsPeersAsTheyWere) {
-    const Grid grid = GridWith({{kNoUnit, "5", "E5"}, {kNoUnit, "12", "A1"}});
+    const Grid grid = GridWith({Only("5", "E5"), Only("12", "A1")});
     const TrialRun run = RunTrials(grid, Mode::Apply);
     EXPECT_EQ(run.result, PassResult::Nothing);
     EXPECT_EQ(run.after.Digit(CellNamed("E5")), 5);

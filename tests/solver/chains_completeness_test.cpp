@@ -14,10 +14,6 @@ using namespace test;
 constexpr int kXYChain = 30;
 constexpr int kForcing = 36;
 
-std::size_t Index(int number) {
-    return static_cast<std::size_t>(number);
-}
-
 // Square matrices of numbers below a prime.
 using Matrix = std::vector<std::vector<std::uint64_t>>;
 constexpr std::uint64_t kPrime = 2147483647;
@@ -134,20 +130,15 @@ EffectSet XYChains(const Grid& grid) {
             if (cell == otherCell || digit != otherDigit || !matrix.AreJoined(one, other)) {
                 continue;
             }
-            CellSet seeingBoth;
-            for (int at = 0; at < kCells; ++at) {
-                if (Sees(at, cell) && Sees(at, otherCell)) {
-                    seeingBoth.Add(at);
-                }
-            }
-            Put(all, Removals(grid, seeingBoth, 1u << digit));
+            Put(all, Removals(grid, SeenBy(cell) & SeenBy(otherCell), 1u << digit));
         }
     }
     return all;
 }
 
 TEST(XYChain, IsFoundWhereverTwoEndsAreJoined) {
-    ExpectComplete(StepOfSlot(kXYChain), XYChains);
+    const Enumerator rows[] = {{"XYChain", StepOfSlot(kXYChain), XYChains}};
+    ExpectComplete(rows);
 }
 
 void ExpectXYChain(const Grid& grid, const Find& find) {
@@ -163,6 +154,7 @@ void ExpectXYChain(const Grid& grid, const Find& find) {
     }
     EXPECT_EQ(lost, find.digits[0]);
     EXPECT_GE(find.cells.Size(), 3u);
+    EXPECT_TRUE(std::ranges::all_of(find.links, &ChainLink::directed));
 }
 
 TEST(XYChain, IsAChainAndTheShortestComeFirst) {
@@ -306,6 +298,7 @@ void ExpectChains(const PlainForcing& plain, const Forced& forced, const Find& f
             ASSERT_GE(next, 0);
             EXPECT_EQ(plain.links.Find(link.from, link.fromDigit), node);
             EXPECT_EQ(link.strong, k % 2 == 1);
+            EXPECT_TRUE(link.directed);
             EXPECT_TRUE(link.strong ? plain.links.IsStrong(node, next)
                                     : plain.links.IsWeak(node, next));
             node = next;
@@ -330,13 +323,11 @@ void ExpectFind(const Grid& grid, const PlainForcing& plain, const Forced& force
     EXPECT_EQ(find.firstColor, places);
     const LinkNode& target = plain.links.nodes[Index(forced.node)];
     const unsigned own = 1u << target.digit;
-    Effects expected = Removals(grid, target.cells, forced.state == State::On ? 1022u & ~own : own);
-    Effects got;
-    for (const auto& [cell, digit] : find.removals) {
-        got.emplace_back(cell, digit);
-    }
-    EXPECT_EQ(got, expected);
+    const bool isOn = forced.state == State::On;
+    EXPECT_EQ(EffectsOf(find), Removals(grid, target.cells, isOn ? 1022u & ~own : own));
     EXPECT_TRUE(find.placements.Empty());
+    EXPECT_EQ(find.secondColor,
+              Find::CandidatesOf(grid, target.cells, isOn ? MarkOf(target.digit) : Marks{0}));
     ExpectChains(plain, forced, find);
 }
 

@@ -2,8 +2,11 @@
 // positions of the corpus and on wilder ones, in all eight orientations.
 #pragma once
 
+#include <array>
 #include <functional>
+#include <random>
 #include <set>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -18,19 +21,46 @@ namespace vemo::test {
 using Effects = std::vector<std::pair<int, int>>;
 using EffectSet = std::set<Effects>;
 
+constexpr std::size_t Index(int number) {
+    return static_cast<std::size_t>(number);
+}
+
 // Unit 0..26: rows, columns, boxes.
 inline CellSet CellsOf(int unit) {
-    CellSet cells;
-    for (int cell = 0; cell < kCells; ++cell) {
-        const int box = cell / 27 * 3 + cell % 9 / 3;
-        if (unit == cell / 9 || unit == 9 + cell % 9 || unit == 18 + box) {
-            cells.Add(cell);
+    static const auto kUnitCells = [] {
+        std::array<CellSet, 27> units;
+        for (int cell = 0; cell < kCells; ++cell) {
+            units[Index(cell / 9)].Add(cell);
+            units[Index(9 + cell % 9)].Add(cell);
+            units[Index(18 + cell / 27 * 3 + cell % 9 / 3)].Add(cell);
         }
-    }
-    return cells;
+        return units;
+    }();
+    return kUnitCells[Index(unit)];
 }
-inline bool IsBox(int unit) {
-    return unit >= 18;
+
+inline CellSet SeenBy(int cell) {
+    static const auto kSeen = [] {
+        std::array<CellSet, kCells> seen;
+        for (int unit = 0; unit < 27; ++unit) {
+            for (int at : CellsOf(unit)) {
+                seen[Index(at)] |= CellsOf(unit) - CellSet::Of(at);
+            }
+        }
+        return seen;
+    }();
+    return kSeen[Index(cell)];
+}
+inline bool Sees(int one, int other) {
+    return SeenBy(one).Has(other);
+}
+// The cells that see every one of these.
+inline CellSet SeenByAll(CellSet cells) {
+    CellSet seen = CellSet::All();
+    for (int cell : cells) {
+        seen &= SeenBy(cell);
+    }
+    return seen;
 }
 
 inline CellSet Holders(const Grid& grid, CellSet cells, int digit) {
@@ -64,49 +94,146 @@ inline void Put(EffectSet& all, Effects removals) {
     }
 }
 
+inline Effects EffectsOf(const Find& find) {
+    Effects effects;
+    for (const auto& [cell, digit] : find.placements) {
+        effects.emplace_back(cell, digit);
+    }
+    for (const auto& [cell, digit] : find.removals) {
+        effects.emplace_back(cell, digit);
+    }
+    return effects;
+}
+
 inline EffectSet FoundBy(const Step& step, const Grid& grid) {
     EffectSet found;
     for (const Find& find : SearchAll(step, grid)) {
-        Effects effects;
-        for (const auto& [cell, digit] : find.placements) {
-            effects.emplace_back(cell, digit);
-        }
-        for (const auto& [cell, digit] : find.removals) {
-            effects.emplace_back(cell, digit);
-        }
-        EXPECT_TRUE(found.insert(effects).second) << "twice the same effects";
+        EXPECT_TRUE(found.insert(EffectsOf(find)).second) << "twice the same effects";
     }
     return found;
 }
 
-// On as many positions with a find as without one. Where a nearly full grid has thousands of finds,
-// ask for more open cells.
-inline void ExpectComplete(const Step& step, const std::function<EffectSet(const Grid&)>& all,
-                           int fewestOpen = 10) {
+// Which positions are looked at.
+struct Limits {
+    // Where a nearly full grid has thousands of finds, ask for more open cells.
+    int fewestOpen = 10;
+    // Of positions with a find.
+    int mostCandidates = kCells * kDigits;
+};
+
+inline int CountCandidates(const Grid& grid) {
+    int count = 0;
+    for (int cell : grid.EmptyCells()) {
+        count += BitCount(grid.MarksAt(cell));
+    }
+    return count;
+}
+
+// Checks fifty positions where the step finds something and fifty where it does not, in all eight
+// orientations, until one fails.
+inline void CheckFiftyOfEach(const Step& step, const Limits& limits,
+                             const std::function<void(const Grid&)>& check) {
     constexpr int kWanted = 50;
     int with = 0;
     int without = 0;
-    PositionsOfCorpus corpus;
-    WildPositions wild;
-    for (int tried = 0; tried < 10000 && (with < kWanted || without < kWanted); ++tried) {
-        const Grid grid = tried % 2 == 0 ? corpus.Next().grid : wild.Next();
-        if (grid.EmptyCount() < fewestOpen) {
+    MixedPositions positions;
+    for (int tried = 0; tried < 20000 && (with < kWanted || without < kWanted); ++tried) {
+        const Grid grid = positions.Next();
+        if (grid.EmptyCount() < limits.fewestOpen) {
             continue;
         }
         const bool any = SearchFirst(step, grid).any;
-        if ((any ? with : without) >= kWanted) {
+        int& count = any ? with : without;
+        if (count == kWanted || (any && CountCandidates(grid) > limits.mostCandidates)) {
             continue;
         }
-        ++(any ? with : without);
+        ++count;
         for (int orientation = 0; orientation < 8; ++orientation) {
-            const Grid turned = Orientation(orientation).Moved(grid);
-            EffectSet expected = all(turned);
-            expected.erase(Effects());
-            ASSERT_EQ(FoundBy(step, turned), expected);
+            check(Orientation(orientation).Moved(grid));
+            if (testing::Test::HasFailure()) {
+                return;
+            }
         }
     }
     EXPECT_EQ(with, kWanted);
     EXPECT_EQ(without, kWanted);
+}
+
+// A step, and what all its finds on a grid do by the definition.
+struct Enumerator {
+    const char* name;
+    Step step;
+    std::function<EffectSet(const Grid&)> all;
+    int fewestOpen = Limits().fewestOpen;
+};
+
+// Passes on the finds of a kind and, where one is named, a variant.
+class FindsOfKind final : public FindSink {
+  public:
+    FindsOfKind(HintKind kind, int variant, FindSink& sink)
+        : kind_(kind), variant_(variant), sink_(sink) {}
+    bool Offer(const Find& find) override {
+        const bool isWanted = find.kind == kind_ && (variant_ == 0 || find.variant == variant_);
+        return !isWanted || sink_.Offer(find);
+    }
+
+  private:
+    HintKind kind_;
+    int variant_;
+    FindSink& sink_;
+};
+
+// A step that searches for these finds alone.
+template <Search kSearch, HintKind kKind, int kVariant = 0>
+Step StepFor() {
+    Step step{};
+    step.search = [](const Position& position, const Args& args, FindSink& sink) {
+        FindsOfKind finds(kKind, kVariant, sink);
+        kSearch(position, args, finds);
+    };
+    return step;
+}
+
+inline void ExpectSameFinds(const Enumerator& row, const Grid& grid) {
+    EffectSet expected = row.all(grid);
+    expected.erase(Effects());
+    ASSERT_EQ(FoundBy(row.step, grid), expected);
+}
+
+inline void ExpectComplete(std::span<const Enumerator> rows) {
+    for (const Enumerator& row : rows) {
+        SCOPED_TRACE(row.name);
+        CheckFiftyOfEach(row.step, {.fewestOpen = row.fewestOpen},
+                         [&](const Grid& grid) { ExpectSameFinds(row, grid); });
+    }
+}
+
+// Few candidates or none in one cell of so many, a lot in the others.
+inline Grid GridWithoutSolution(std::mt19937& random, unsigned oneIn) {
+    Grid grid;
+    for (int cell = 0; cell < kCells; ++cell) {
+        const auto one = random();
+        const auto other = random();
+        const auto gone = random() % oneIn == 0 ? one | other : one & other;
+        Discard(grid, cell, static_cast<Marks>(gone & kAllMarks));
+    }
+    return grid;
+}
+
+// Inside a trial a grid can be left without any solution, down to cells without a candidate.
+inline void ExpectCompleteWithoutSolution(std::span<const Enumerator> rows, int grids,
+                                          unsigned oneIn) {
+    std::mt19937 random(37);
+    for (int made = 0; made < grids; ++made) {
+        const Grid grid = GridWithoutSolution(random, oneIn);
+        for (const Enumerator& row : rows) {
+            SCOPED_TRACE(row.name);
+            ASSERT_NO_FATAL_FAILURE(ExpectSameFinds(row, grid));
+            for (const Find& find : SearchAll(row.step, grid)) {
+                EXPECT_FALSE(LogLine(find).empty() || HintText(find).empty());
+            }
+        }
+    }
 }
 
 }  // namespace vemo::test

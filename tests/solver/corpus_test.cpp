@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include "model/levels.h"
-#include "solver/brute_force.h"
 #include "solver/patterns.h"
 #include "solver/positions.h"
 
@@ -30,19 +29,6 @@ void ExpectSound(const Grid& grid, const Digits& solution) {
             EXPECT_TRUE(std::ranges::none_of(find.removals, isTrue));
             EXPECT_TRUE(std::ranges::all_of(find.placements, isThere));
             EXPECT_TRUE(std::ranges::all_of(find.removals, isThere));
-        }
-    }
-}
-
-TEST(Corpus, IsThereAndEveryPuzzleHasOneSolution) {
-    const std::vector<Digits> puzzles = Corpus();
-    EXPECT_GE(puzzles.size(), 200u);
-    for (const Digits& puzzle : puzzles) {
-        PlainSearch plain(puzzle);
-        ASSERT_EQ(plain.Count(), 1);
-        for (const BruteForceResult& result : {BruteForceSolve(puzzle), UniqueSud(puzzle)}) {
-            ASSERT_TRUE(result.IsUnique());
-            ASSERT_TRUE(std::ranges::equal(result.solution, plain.first));
         }
     }
 }

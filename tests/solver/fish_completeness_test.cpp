@@ -1,4 +1,5 @@
 // The fish, plain and finned, overlook none.
+#include <algorithm>
 #include <array>
 
 #include "solver/completeness.h"
@@ -24,39 +25,9 @@ Lines LinesFrom(int unit) {
     return lines;
 }
 
-// Two lines on which a digit stands exactly twice, on the same two crossing lines, and no third.
-EffectSet XWings(const Grid& grid) {
-    EffectSet all;
-    for (int digit = 1; digit <= 9; ++digit) {
-        for (int pair = 0; pair < 18 * 18; ++pair) {
-            const int one = pair / 18;
-            const int other = pair % 18;
-            const int sameKind = one / 9 * 9;
-            if (one >= other || sameKind != other / 9 * 9) {
-                continue;
-            }
-            const CellSet base = CellsOf(one) | CellsOf(other);
-            const CellSet corners = Holders(grid, base, digit);
-            CellSet cover;
-            for (int crossing = 9 - sameKind; crossing < 18 - sameKind; ++crossing) {
-                const int shared = (CellsOf(crossing) & corners).Count();
-                cover |= shared == 2 ? CellsOf(crossing) : CellSet();
-            }
-            int lines = 0;
-            for (int line = sameKind; line < sameKind + 9; ++line) {
-                const CellSet holders = Holders(grid, CellsOf(line), digit);
-                lines += holders.Count() == 2 && cover.Contains(holders) ? 1 : 0;
-            }
-            if (corners.Count() == 4 && cover.Count() == 18 && lines == 2) {
-                all.insert(Removals(grid, cover - base, 1u << digit));
-            }
-        }
-    }
-    return all;
-}
-
 // The chosen lines, bit k for the k-th of their kind, are `size` lines that hold the digit in two
-// cells or more each, and in just `size` crossing lines between them.
+// cells or more each, and in just `size` crossing lines between them. Three lines on two crossing
+// lines contradict each other, and are no X-Wing.
 Effects FishOn(const Grid& grid, const Lines& lines, const Lines& crossings, int digit,
                unsigned chosen, int size) {
     if (BitCount(chosen) != size) {
@@ -75,7 +46,13 @@ Effects FishOn(const Grid& grid, const Lines& lines, const Lines& crossings, int
     for (const CellSet crossing : crossings) {
         cover |= Holders(grid, crossing & base, digit).Any() ? crossing : CellSet();
     }
-    return cover.Count() == 9 * size ? Removals(grid, cover - base, 1u << digit) : Effects();
+    const auto isCovered = [&](CellSet line) {
+        const CellSet holders = Holders(grid, line, digit);
+        return holders.Count() >= 2 && cover.Contains(holders);
+    };
+    const bool isFish = size > 2 || std::ranges::count_if(lines, isCovered) == 2;
+    return isFish && cover.Count() == 9 * size ? Removals(grid, cover - base, 1u << digit)
+                                               : Effects();
 }
 
 EffectSet Fish(const Grid& grid, int size) {
@@ -139,20 +116,19 @@ EffectSet FinnedXWings(const Grid& grid) {
     return all;
 }
 
-TEST(FishCompleteness, EveryXWingIsFound) {
-    ExpectComplete(StepOfSlot(8), XWings);
+std::vector<Enumerator> Enumerators() {
+    return {{"XWing", StepOfSlot(8), [](const Grid& grid) { return Fish(grid, 2); }},
+            {"Swordfish", StepOfSlot(9), [](const Grid& grid) { return Fish(grid, 3); }},
+            {"Jellyfish", StepOfSlot(17), [](const Grid& grid) { return Fish(grid, 4); }},
+            {"FinnedXWing", StepOfSlot(20), FinnedXWings}};
 }
 
-TEST(FishCompleteness, EverySwordfishIsFound) {
-    ExpectComplete(StepOfSlot(9), [](const Grid& grid) { return Fish(grid, 3); });
+TEST(FishCompleteness, EachStepFindsWhatItsDefinitionHolds) {
+    ExpectComplete(Enumerators());
 }
 
-TEST(FishCompleteness, EveryJellyfishIsFound) {
-    ExpectComplete(StepOfSlot(17), [](const Grid& grid) { return Fish(grid, 4); });
-}
-
-TEST(FishCompleteness, EveryFinnedXWingIsFound) {
-    ExpectComplete(StepOfSlot(20), FinnedXWings);
+TEST(FishCompleteness, HoldsWhereThereIsNoSolution) {
+    ExpectCompleteWithoutSolution(Enumerators(), 20, 1);
 }
 
 }  // namespace

@@ -23,23 +23,12 @@ constexpr GraphKind kGraphKinds[] = {
     {"almost locked sets", GraphNodes::AlmostLocked, GraphDigits::All},
 };
 
-// Positions of the corpus and wilder ones in turn.
-std::vector<Grid> SomePositions(int count) {
-    PositionsOfCorpus corpus;
-    WildPositions wild;
-    std::vector<Grid> grids;
-    while (static_cast<int>(grids.size()) < count) {
-        grids.push_back(grids.size() % 2 == 0 ? corpus.Next().grid : wild.Next());
-    }
-    return grids;
-}
-
 void ExpectSameLinks(const LinkGraph& graph, const PlainLinks& plain) {
     ASSERT_EQ(graph.Size(), plain.Size());
     EXPECT_EQ(graph.Singles(), plain.singles);
     for (int one = 0; one < graph.Size(); ++one) {
         const LinkNode& node = graph.Node(one);
-        ASSERT_EQ(node, plain.nodes[static_cast<std::size_t>(one)]);
+        ASSERT_EQ(node, plain.nodes[Index(one)]);
         for (int other = 0; other < graph.Size(); ++other) {
             ASSERT_EQ(graph.Weak().Has(one, other), plain.IsWeak(one, other));
             ASSERT_EQ(graph.Strong().Has(one, other), plain.IsStrong(one, other));
@@ -72,7 +61,9 @@ void ExpectSetsOfLinks(const Grid& grid, const LinkGraph& graph, const PlainLink
 }
 
 TEST(LinkGraph, HasTheNodesAndLinksOfItsDefinition) {
-    for (const Grid& grid : SomePositions(60)) {
+    MixedPositions positions;
+    for (int tried = 0; tried < 60; ++tried) {
+        const Grid grid = positions.Next();
         const Position position(grid);
         for (const GraphKind& kind : kGraphKinds) {
             SCOPED_TRACE(kind.name);
@@ -90,7 +81,7 @@ TEST(LinkGraph, HoldsThousandsOfSetsAndNoLinkIsWrong) {
     const Digits solution = PlainSolution();
     Grid grid;
     for (int cell = 0; cell < kCells; ++cell) {
-        const Marks held = MarkOf(solution[static_cast<std::size_t>(cell)]) | MarkOf(1);
+        const Marks held = MarkOf(solution[Index(cell)]) | MarkOf(1);
         Discard(grid, cell, static_cast<Marks>(kAllMarks & ~held));
     }
     const Position position(grid);
@@ -98,19 +89,18 @@ TEST(LinkGraph, HoldsThousandsOfSetsAndNoLinkIsWrong) {
     EXPECT_GT(graph.Size(), 3000);
     std::array<CellSet, 10> right;  // cells, by digit
     for (int cell = 0; cell < kCells; ++cell) {
-        right[solution[static_cast<std::size_t>(cell)]].Add(cell);
+        right[solution[Index(cell)]].Add(cell);
     }
     std::vector<bool> isOn;
     for (int node = 0; node < graph.Size(); ++node) {
         const LinkNode& at = graph.Node(node);
-        isOn.push_back((at.cells & right[static_cast<std::size_t>(at.digit)]).Any());
+        isOn.push_back((at.cells & right[Index(at.digit)]).Any());
     }
     for (std::size_t node = 0; node < isOn.size(); ++node) {
         const LinkKind kind = isOn[node] ? LinkKind::Weak : LinkKind::Strong;
         const BitRows& rows = RowsOf(graph, kind);
         ForEachBit(rows.Row(static_cast<int>(node)), rows.Words(), [&](int other) {
-            ASSERT_NE(isOn[node], isOn[static_cast<std::size_t>(other)])
-                << "nodes " << node << " and " << other;
+            ASSERT_NE(isOn[node], isOn[Index(other)]) << "nodes " << node << " and " << other;
         });
     }
 }

@@ -13,30 +13,6 @@ namespace {
 
 using namespace test;
 
-const std::vector<CellSet>& UnitCells() {
-    static const auto kUnitCells = [] {
-        std::vector<CellSet> cells;
-        for (int unit = 0; unit < 27; ++unit) {
-            cells.push_back(CellsOf(unit));
-        }
-        return cells;
-    }();
-    return kUnitCells;
-}
-
-bool SeeEachOther(int one, int other) {
-    static const auto kSeen = [] {
-        std::array<CellSet, kCells> seen;
-        for (const CellSet& unit : UnitCells()) {
-            for (const int cell : unit) {
-                seen[static_cast<std::size_t>(cell)] |= unit - CellSet::Of(cell);
-            }
-        }
-        return seen;
-    }();
-    return kSeen[static_cast<std::size_t>(one)].Has(other);
-}
-
 // A candidate's number is 9 times its cell and its digit - 1.
 constexpr int kCandidates = 729;
 using Ties = std::vector<std::vector<int>>;
@@ -55,9 +31,9 @@ Ties TiesOf(const Grid& grid) {
             Tie(ties, 9 * cell + both[0].second - 1, 9 * cell + both[1].second - 1);
         }
     }
-    for (const CellSet& unit : UnitCells()) {
+    for (int unit = 0; unit < 27; ++unit) {
         for (int digit = 1; digit <= 9; ++digit) {
-            const Effects both = Removals(grid, unit, 1u << digit);
+            const Effects both = Removals(grid, CellsOf(unit), 1u << digit);
             if (both.size() == 2) {
                 Tie(ties, 9 * both[0].first + digit - 1, 9 * both[1].first + digit - 1);
             }
@@ -102,7 +78,7 @@ struct Reach {
             own[static_cast<std::size_t>(cell)] |= bit;
             taken[static_cast<std::size_t>(cell)] |= kAllMarks & ~bit;
             for (int other = 0; other < kCells; ++other) {
-                taken[static_cast<std::size_t>(other)] |= SeeEachOther(cell, other) ? bit : 0u;
+                taken[static_cast<std::size_t>(other)] |= Sees(cell, other) ? bit : 0u;
             }
         }
     }
@@ -226,10 +202,10 @@ void PutSueDeCoqs(const Grid& grid, CellSet line, CellSet box, const Group& comm
 
 EffectSet SueDeCoqs(const Grid& grid) {
     EffectSet all;
-    for (std::size_t line = 0; line < 18; ++line) {
-        for (std::size_t box = 18; box < 27; ++box) {
-            const CellSet lineCells = UnitCells()[line];
-            const CellSet boxCells = UnitCells()[box];
+    for (int line = 0; line < 18; ++line) {
+        for (int box = 18; box < 27; ++box) {
+            const CellSet lineCells = CellsOf(line);
+            const CellSet boxCells = CellsOf(box);
             for (const Group& common : GroupsOf(grid, lineCells & boxCells)) {
                 if (common.Size() >= 2 && common.DigitCount() >= common.Size() + 2) {
                     PutSueDeCoqs(grid, lineCells, boxCells, common, all);
@@ -261,31 +237,18 @@ struct DigitLines {
     }
 };
 
-// How many bits each number below 512 has.
-const std::array<int, 512>& BitCounts() {
-    static const auto kCounts = [] {
-        std::array<int, 512> counts{};
-        for (unsigned set = 1; set < 512; ++set) {
-            counts[set] = counts[set / 2] + static_cast<int>(set % 2);
-        }
-        return counts;
-    }();
-    return kCounts;
-}
-
 int CountOf(unsigned lines) {
-    return BitCounts()[lines];
+    return std::popcount(lines);
 }
 
 // By choice, the cells of some rows, the first of them unit 0, or columns, the first of them
 // unit 9.
-template <std::size_t kFirstUnit>
+template <int kFirstUnit>
 CellSet CellsOn(unsigned lines) {
     static const auto kCellsOn = [] {
         std::array<CellSet, 512> cells;
         for (std::size_t set = 1; set < cells.size(); ++set) {
-            const auto last = static_cast<std::size_t>(std::countr_zero(set));
-            cells[set] = cells[set & (set - 1)] | UnitCells()[kFirstUnit + last];
+            cells[set] = cells[set & (set - 1)] | CellsOf(kFirstUnit + std::countr_zero(set));
         }
         return cells;
     }();
@@ -360,16 +323,11 @@ EffectSet MultiFishes(const Grid& grid) {
     return all;
 }
 
-TEST(SetsCompleteness, EveryMedusaIsFound) {
-    ExpectComplete(StepOfSlot(21), Medusas);
-}
-
-TEST(SetsCompleteness, EverySueDeCoqIsFound) {
-    ExpectComplete(StepOfSlot(22), SueDeCoqs);
-}
-
-TEST(SetsCompleteness, EveryMultiFishIsFound) {
-    ExpectComplete(StepOfSlot(35), MultiFishes, 45);
+TEST(SetsCompleteness, EachStepFindsWhatItsDefinitionHolds) {
+    const Enumerator rows[] = {{"Medusa", StepOfSlot(21), Medusas},
+                               {"SueDeCoq", StepOfSlot(22), SueDeCoqs},
+                               {"MultiFish", StepOfSlot(35), MultiFishes, 45}};
+    ExpectComplete(rows);
 }
 
 // There whole lines are filled, and most crossings have room for no more than their cells.

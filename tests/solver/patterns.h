@@ -29,6 +29,7 @@ inline const Step& StepAt(int row) {
 }
 
 inline constexpr int kNoUnit = -1;
+inline constexpr int kFilled = -2;
 constexpr int Row(char letter) {
     return UnitNumber(UnitKind::Row, letter == 'J' ? 8 : letter - 'A');
 }
@@ -40,21 +41,36 @@ constexpr int Box(int index) {
 }
 
 // In `unit` the digits are candidates of the cells alone; without a unit the cells hold no other
-// digits.
+// digits; or they are filled with the digit.
 struct Pattern {
     int unit;
     std::string_view digits;
     std::string_view cells;
 };
 
+// These cells hold no other digits.
+constexpr Pattern Only(std::string_view digits, std::string_view cells) {
+    return {kNoUnit, digits, cells};
+}
+constexpr Pattern Filled(std::string_view digit, std::string_view cells) {
+    return {kFilled, digit, cells};
+}
+inline std::vector<Pattern> Both(std::vector<Pattern> patterns, const std::vector<Pattern>& more) {
+    patterns.insert(patterns.end(), more.begin(), more.end());
+    return patterns;
+}
+
 inline Grid GridWith(const std::vector<Pattern>& patterns) {
     Grid grid;
     for (const auto& [unit, digits, cells] : patterns) {
         const CellSet within = CellsNamed(cells);
         const Marks marks = DigitsNamed(digits);
-        if (unit == kNoUnit) {
+        if (unit < 0) {
             for (int cell : within) {
                 Discard(grid, cell, kAllMarks & ~marks);
+                if (unit == kFilled) {
+                    grid.Zet(FirstDigit(marks), cell);
+                }
             }
             continue;
         }

@@ -24,22 +24,8 @@ class EveryFind final : public FindSink {
     std::vector<Find> finds;
 };
 
-inline bool Sees(int one, int other) {
-    const bool share = one / 9 == other / 9 || one % 9 == other % 9 ||
-                       (one / 27 == other / 27 && one % 9 / 3 == other % 9 / 3);
-    return one != other && share;
-}
-
 // Where there are more, most searches find hundreds of chains, which cost more than they show.
 inline constexpr int kMostCandidates = 200;
-
-inline int CountCandidates(const Grid& grid) {
-    int count = 0;
-    for (int cell : grid.EmptyCells()) {
-        count += BitCount(grid.MarksAt(cell));
-    }
-    return count;
-}
 
 // Sets of open cells of a unit with one digit more than cells, by size, unit and cells, each once.
 inline std::vector<CellSet> PlainAlmostLocked(const Grid& grid, int size) {
@@ -76,9 +62,6 @@ inline std::vector<CellSet> PlainAlmostLocked(const Grid& grid, int size) {
 class PlainLinks {
   public:
     PlainLinks(const Grid& grid, GraphNodes kinds, GraphDigits digits) : grid_(grid) {
-        for (int unit = 0; unit < 27; ++unit) {
-            units_.push_back(CellsOf(unit));
-        }
         for (int cell = 0; cell < kCells; ++cell) {
             for (int digit = 1; digit <= 9; ++digit) {
                 if (grid.KnopAan(cell, digit)) {
@@ -125,10 +108,7 @@ class PlainLinks {
     std::vector<CellSet> sets;  // almost locked
 
   private:
-    static std::size_t Index(int node) { return static_cast<std::size_t>(node); }
-
     const std::vector<int>& OfDigit(int digit) const { return ofDigit_[Index(digit)]; }
-    CellSet CellsOfUnit(int unit) const { return units_[Index(unit)]; }
     void AddNode(CellSet cells, int digit) {
         ofDigit_[Index(digit)].push_back(Size());
         nodes.push_back({cells, digit});
@@ -137,7 +117,7 @@ class PlainLinks {
         for (int digit = 1; digit <= 9; ++digit) {
             for (int line = 0; line < 18; ++line) {
                 for (int box = 18; box < 27; ++box) {
-                    const CellSet crossing = CellsOfUnit(line) & CellsOfUnit(box);
+                    const CellSet crossing = CellsOf(line) & CellsOf(box);
                     const CellSet cells = Holders(grid_, crossing, digit);
                     if (cells.Count() >= 2) {
                         AddNode(cells, digit);
@@ -159,8 +139,8 @@ class PlainLinks {
     void LinkByDigit() {
         for (int digit = 1; digit <= 9; ++digit) {
             std::vector<CellSet> places;  // by unit
-            for (CellSet unit : units_) {
-                places.push_back(Holders(grid_, unit, digit));
+            for (int unit = 0; unit < 27; ++unit) {
+                places.push_back(Holders(grid_, CellsOf(unit), digit));
             }
             for (int one : OfDigit(digit)) {
                 const CellSet cells = nodes[Index(one)].cells;
@@ -182,20 +162,6 @@ class PlainLinks {
                 }
             }
         }
-    }
-    // The cells that see every one of these.
-    static CellSet SeenByAll(CellSet cells) {
-        CellSet seen;
-        for (int cell = 0; cell < kCells; ++cell) {
-            bool seesAll = true;
-            for (int at : cells) {
-                seesAll = seesAll && Sees(cell, at);
-            }
-            if (seesAll) {
-                seen.Add(cell);
-            }
-        }
-        return seen;
     }
     void LinkInCells() {
         for (int one = 0; one < singles; ++one) {
@@ -228,7 +194,6 @@ class PlainLinks {
     }
 
     const Grid& grid_;
-    std::vector<CellSet> units_;
     std::array<std::vector<int>, 10> ofDigit_;
     BitRows weak_;
     BitRows strong_;
@@ -267,35 +232,9 @@ class PlainLevels {
     BitRows levels_;
 };
 
-// Checks fifty positions where the slot finds something and fifty where it does not, in all eight
-// orientations, until one fails.
+// Checks fifty positions where the slot finds something and fifty where it does not.
 inline void OnPositionsOf(int slot, const std::function<void(const Grid&)>& check) {
-    constexpr int kWanted = 50;
-    int with = 0;
-    int without = 0;
-    PositionsOfCorpus corpus;
-    WildPositions wild;
-    for (int tried = 0; tried < 20000 && (with < kWanted || without < kWanted); ++tried) {
-        const Grid grid = tried % 2 == 0 ? corpus.Next().grid : wild.Next();
-        if (grid.EmptyCount() < 10) {
-            continue;
-        }
-        const bool any = SearchFirst(StepOfSlot(slot), grid).any;
-        int& count = any ? with : without;
-        const bool isTooLarge = any && CountCandidates(grid) > kMostCandidates;
-        if (isTooLarge || count == kWanted) {
-            continue;
-        }
-        ++count;
-        for (int orientation = 0; orientation < 8; ++orientation) {
-            check(Orientation(orientation).Moved(grid));
-            if (testing::Test::HasFailure()) {
-                return;
-            }
-        }
-    }
-    EXPECT_EQ(with, kWanted);
-    EXPECT_EQ(without, kWanted);
+    CheckFiftyOfEach(StepOfSlot(slot), {.mostCandidates = kMostCandidates}, check);
 }
 
 }  // namespace vemo::test

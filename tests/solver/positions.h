@@ -107,4 +107,15 @@ class WildPositions {
     std::mt19937 random_{23};
 };
 
+// Of both in turn.
+class MixedPositions {
+  public:
+    Grid Next() { return ++count_ % 2 == 1 ? corpus_.Next().grid : wild_.Next(); }
+
+  private:
+    PositionsOfCorpus corpus_;
+    WildPositions wild_;
+    int count_ = 0;
+};
+
 }  // namespace vemo::test

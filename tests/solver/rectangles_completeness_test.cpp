@@ -12,8 +12,6 @@ namespace {
 
 using namespace test;
 
-constexpr std::size_t kTypes = 5;
-
 // Four corners: the second shares the first one's row, the third its column; the fourth is across.
 using Corners = std::array<int, 4>;
 
@@ -56,31 +54,13 @@ std::array<Halves, 4> FromEachSide(const Corners& at) {
 }
 
 std::vector<CellSet> UnitsWith(int one, int other) {
-    static const auto kUnitCells = [] {
-        std::vector<CellSet> cells;
-        for (int unit = 0; unit < 27; ++unit) {
-            cells.push_back(CellsOf(unit));
-        }
-        return cells;
-    }();
     std::vector<CellSet> units;
-    for (const CellSet& cells : kUnitCells) {
-        if (cells.Has(one) && cells.Has(other)) {
-            units.push_back(cells);
+    for (int unit = 0; unit < 27; ++unit) {
+        if (CellsOf(unit).Has(one) && CellsOf(unit).Has(other)) {
+            units.push_back(CellsOf(unit));
         }
     }
     return units;
-}
-
-CellSet SeenByBoth(int one, int other) {
-    CellSet seen;
-    for (int cell = 0; cell < kCells; ++cell) {
-        const bool isOther = cell != one && cell != other;
-        if (isOther && !UnitsWith(cell, one).empty() && !UnitsWith(cell, other).empty()) {
-            seen.Add(cell);
-        }
-    }
-    return seen;
 }
 
 // A rectangle of open cells with two digits.
@@ -129,7 +109,7 @@ void PutType2(const View& view, EffectSet& all) {
     for (const auto& [floor, roof] : Houses(view)) {
         const unsigned extras = view.Extras(roof[0]) | view.Extras(roof[1]);
         if (BitCount(extras) == 1) {
-            Put(all, Removals(view.grid, SeenByBoth(roof[0], roof[1]), extras));
+            Put(all, Removals(view.grid, SeenBy(roof[0]) & SeenBy(roof[1]), extras));
         }
     }
 }
@@ -193,85 +173,23 @@ void PutHidden(const View& view, EffectSet& all) {
     }
 }
 
-using TypeRule = void (*)(const View&, EffectSet&);
-constexpr std::array<TypeRule, kTypes> kTypeRules = {PutType1, PutType2, PutType3, PutType4,
-                                                     PutHidden};
-
-std::array<EffectSet, kTypes> UniqueRectangles(const Grid& grid) {
+// A type by its rule.
+template <void (*kPutType)(const View&, EffectSet&)>
+EffectSet UniqueRectangles(const Grid& grid) {
     static const std::vector<Corners> kCorners = AllCorners();
-    std::array<EffectSet, kTypes> all;
+    EffectSet all;
     for (const Corners& corners : kCorners) {
         const auto isOpen = [&](int cell) { return grid.Digit(cell) == 0; };
         if (!std::ranges::all_of(corners, isOpen)) {
             continue;
         }
-        for (int pair = 0; pair < 100; ++pair) {
-            const View view{grid, corners, pair / 10, pair % 10};
-            if (view.a == 0 || view.a >= view.b) {
-                continue;
-            }
-            for (std::size_t type = 0; type < kTypes; ++type) {
-                kTypeRules[type](view, all[type]);
+        for (int a = 1; a <= kDigits; ++a) {
+            for (int b = a + 1; b <= kDigits; ++b) {
+                kPutType({grid, corners, a, b}, all);
             }
         }
     }
     return all;
-}
-
-// Keeps what the finds of each type do.
-class ByType final : public FindSink {
-  public:
-    bool Offer(const Find& find) override {
-        Effects effects;
-        for (const auto& [cell, digit] : find.removals) {
-            effects.emplace_back(cell, digit);
-        }
-        found.at(static_cast<std::size_t>(find.variant - 1)).insert(effects);
-        return true;
-    }
-
-    std::array<EffectSet, kTypes> found;
-};
-
-std::array<EffectSet, kTypes> FoundByType(const Grid& grid) {
-    ByType sink;
-    Solver(grid).Search(StepOfSlot(24), sink);
-    return sink.found;
-}
-
-// How many positions are still wanted, by type: without a find, and with one.
-struct Wanted {
-    std::array<std::array<int, 2>, kTypes> counts;
-
-    // Answers whether the position is wanted for any type.
-    bool Take(const std::array<EffectSet, kTypes>& found) {
-        bool isWanted = false;
-        for (std::size_t type = 0; type < kTypes; ++type) {
-            int& count = counts[type][found[type].empty() ? 0 : 1];
-            isWanted |= count > 0;
-            count -= count > 0 ? 1 : 0;
-        }
-        return isWanted;
-    }
-};
-
-TEST(UniqueRectangle, EachTypeFindsWhatItsDefinitionHolds) {
-    Wanted wanted;
-    wanted.counts.fill({50, 50});
-    const Wanted none{};
-    PositionsOfCorpus corpus;
-    WildPositions wild;
-    for (int tried = 0; tried < 4000 && wanted.counts != none.counts; ++tried) {
-        const Grid grid = tried % 2 == 0 ? corpus.Next().grid : wild.Next();
-        if (!wanted.Take(FoundByType(grid))) {
-            continue;
-        }
-        for (int orientation = 0; orientation < 8; ++orientation) {
-            const Grid turned = Orientation(orientation).Moved(grid);
-            ASSERT_EQ(FoundByType(turned), UniqueRectangles(turned));
-        }
-    }
-    EXPECT_EQ(wanted.counts, none.counts);
 }
 
 // The last corner is open: with this digit the four would hold two digits.
@@ -291,7 +209,7 @@ void PutOpenSide(const Grid& grid, const Halves& halves, EffectSet& all) {
         const bool isExtra = a != 0 && b != 0 && x != a && x != b;
         if (isExtra && grid.MarksAt(halves.roof[0]) == (1u << b | 1u << x) &&
             grid.MarksAt(halves.roof[1]) == (1u << a | 1u << x)) {
-            Put(all, Removals(grid, SeenByBoth(halves.roof[0], halves.roof[1]), 1u << x));
+            Put(all, Removals(grid, SeenBy(halves.roof[0]) & SeenBy(halves.roof[1]), 1u << x));
         }
     }
 }
@@ -314,8 +232,19 @@ EffectSet AvoidableRectangles(const Grid& grid) {
     return all;
 }
 
-TEST(AvoidableRectangle, FindsWhatItsDefinitionHolds) {
-    ExpectComplete(StepOfSlot(25), AvoidableRectangles);
+template <int kType>
+Step StepOfType() {
+    return StepFor<UniqueRectangle, HintKind::UniqueRectangle, kType>();
+}
+
+TEST(Rectangles, EachTypeIsFoundWhereItsDefinitionHolds) {
+    const Enumerator rows[] = {{"Type1", StepOfType<1>(), UniqueRectangles<PutType1>},
+                               {"Type2", StepOfType<2>(), UniqueRectangles<PutType2>},
+                               {"Type3", StepOfType<3>(), UniqueRectangles<PutType3>},
+                               {"Type4", StepOfType<4>(), UniqueRectangles<PutType4>},
+                               {"Hidden", StepOfType<5>(), UniqueRectangles<PutHidden>},
+                               {"Avoidable", StepOfSlot(25), AvoidableRectangles}};
+    ExpectComplete(rows);
 }
 
 }  // namespace

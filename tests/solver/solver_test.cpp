@@ -93,7 +93,7 @@ TEST(Ladders, HonourOrderOnOffAndHalt) {
 }
 
 TEST(Pass, EndsAtADeadEndBeforeAnyStep) {
-    Solver solver(GridWith({{kNoUnit, "5", "A1"}, {kNoUnit, "", "J9"}}));
+    Solver solver(GridWith({Only("5", "A1"), Only("", "J9")}));
     int watched = 0;
     solver.SetStepWatcher([&](const Step&) { return ++watched > 0; });
     EXPECT_EQ(solver.Pass(FixedLadder()), PassResult::DeadEnd);
@@ -103,7 +103,7 @@ TEST(Pass, EndsAtADeadEndBeforeAnyStep) {
 }
 
 TEST(Pass, AsksBeforeEachStepWhetherToGoOn) {
-    Solver solver(GridWith({{kNoUnit, "12", "A1 A5"}}));
+    Solver solver(GridWith({Only("12", "A1 A5")}));
     std::vector<int> watched;
     std::size_t last = 4;
     solver.SetStepWatcher([&](const Step& step) {
@@ -148,7 +148,7 @@ TEST(Pass, AHintForgetsWhatTheHintBeforeItNoted) {
 
 TEST(Pass, PassesOverAFindThatChangesNothing) {
     const Step idle = StepOf(Idle, 27, 6);
-    Solver solver(GridWith({{kNoUnit, "5", "C3"}}));
+    Solver solver(GridWith({Only("5", "C3")}));
     std::vector<std::string> log;
     solver.SetLog([&](std::string_view line) { log.emplace_back(line); });
     EXPECT_EQ(solver.Pass({{&idle, Mode::Apply}, {&StepAt(kNakedSingle), Mode::Apply}}),
@@ -179,7 +179,7 @@ TEST(Pass, OnlyTheSinglesTestWhetherTheGridIsFull) {
 }
 
 TEST(Apply, LeavesOutWhatTheGridDoesNotAllow) {
-    Grid grid = GridWith({{kNoUnit, "12", "A1"}});
+    Grid grid = GridWith({Only("12", "A1")});
     grid.Zet(9, CellNamed("J9"));
     Solver solver(grid);
     Find find;

@@ -22,9 +22,6 @@ const TextCase kCases[] = {
     {kHiddenSingle, {Box(0), "9", "C3"}, "Hidden single",
      "Hidden Single 9 in box at cell C3",
      "HIDDEN SINGLE: Since number 9 in the top left block appears only at cell C3, it must be there"},
-    {kHiddenSingle, {Box(3), "2", "F1"}, "Hidden single",
-     "Hidden Single 2 in box at cell F1",
-     "HIDDEN SINGLE: Since number 2 in the left centre block appears only at cell F1, it must be there"},
     {kHiddenSingle, {Box(4), "5", "E5"}, "Hidden single",
      "Hidden Single 5 in box at cell E5",
      "HIDDEN SINGLE: Since number 5 in the center block appears only at cell E5, it must be there"},
@@ -34,84 +31,37 @@ const TextCase kCases[] = {
     {kHiddenSingle, {Column(9), "7", "A9"}, "Hidden single",
      "Hidden Single 7 in column at cell A9",
      "HIDDEN SINGLE: Since number 7 in column 9 appears only at cell A9, it must be there"},
-
-    {kNakedSingle, {kNoUnit, "5", "C3"}, "Naked single",
+    {kNakedSingle, Only("5", "C3"), "Naked single",
      "Naked Single 5 at cell C3",
      "NAKED SINGLE: Since number 5 at cell C3 is the only one possible, it must be there"},
-
     {kPointingPair, {Box(0), "1", "A1 A2"}, "Pointing Pair",
      "Pointing Pair: Row A => Removed candidate 1 from cell(s) A4 A5 A6 A7 A8 A9",
      "POINTING PAIR: Since number 1 in the top left block appears only in row A, this number can't be in any other block of that same row"},
     {kPointingPair, {Box(1), "2", "A5 B5 C5"}, "Pointing Pair",
      "Pointing Pair: Column 5 => Removed candidate 2 from cell(s) D5 E5 F5 G5 H5 J5",
      "POINTING PAIR: Since number 2 in the top middle block appears only in column 5, this number can't be in any other block of that same column"},
-    {kPointingPair, {Box(2), "3", "C7 C9"}, "Pointing Pair",
-     "Pointing Pair: Row C => Removed candidate 3 from cell(s) C1 C2 C3 C4 C5 C6",
-     "POINTING PAIR: Since number 3 in the top right block appears only in row C, this number can't be in any other block of that same row"},
-    {kPointingPair, {Box(3), "4", "D1 F1"}, "Pointing Pair",
-     "Pointing Pair: Column 1 => Removed candidate 4 from cell(s) A1 B1 C1 G1 H1 J1",
-     "POINTING PAIR: Since number 4 in the left centre block appears only in column 1, this number can't be in any other block of that same column"},
-    {kPointingPair, {Box(4), "5", "E4 E6"}, "Pointing Pair",
-     "Pointing Pair: Row E => Removed candidate 5 from cell(s) E1 E2 E3 E7 E8 E9",
-     "POINTING PAIR: Since number 5 in the centre block appears only in row E, this number can't be in any other block of that same row"},
-    {kPointingPair, {Box(5), "6", "D9 E9"}, "Pointing Pair",
-     "Pointing Pair: Column 9 => Removed candidate 6 from cell(s) A9 B9 C9 G9 H9 J9",
-     "POINTING PAIR: Since number 6 in the right centre block appears only in column 9, this number can't be in any other block of that same column"},
-    {kPointingPair, {Box(6), "7", "J1 J2 J3"}, "Pointing Pair",
-     "Pointing Pair: Row J => Removed candidate 7 from cell(s) J4 J5 J6 J7 J8 J9",
-     "POINTING PAIR: Since number 7 in the bottom left block appears only in row J, this number can't be in any other block of that same row"},
-    {kPointingPair, {Box(7), "8", "G4 H4"}, "Pointing Pair",
-     "Pointing Pair: Column 4 => Removed candidate 8 from cell(s) A4 B4 C4 D4 E4 F4",
-     "POINTING PAIR: Since number 8 in the bottom middle block appears only in column 4, this number can't be in any other block of that same column"},
-    {kPointingPair, {Box(8), "9", "H7 H8"}, "Pointing Pair",
-     "Pointing Pair: Row H => Removed candidate 9 from cell(s) H1 H2 H3 H4 H5 H6",
-     "POINTING PAIR: Since number 9 in the bottom right block appears only in row H, this number can't be in any other block of that same row"},
-
     // Two blanks after the comma for the first box alone.
     {kBoxLine, {Row('A'), "1", "A1 A2"}, "Box Line Reduction",
      "Box Line Reduction: Row A => Removed candidate 1 from cell(s) B1 B2 B3 C1 C2 C3",
      "BOX LINE REDUCTION: Since number 1 in row A appears only in the top left block,  this number can't be anywhere else in that block"},
-    {kBoxLine, {Column(1), "2", "A1 C1"}, "Box Line Reduction",
-     "Box Line Reduction: Column 1 => Removed candidate 2 from cell(s) A2 A3 B2 B3 C2 C3",
-     "BOX LINE REDUCTION: Since number 2 in column 1 appears only in the top left block,  this number can't be anywhere else in that block"},
     {kBoxLine, {Column(5), "5", "E5 F5"}, "Box Line Reduction",
      "Box Line Reduction: Column 5 => Removed candidate 5 from cell(s) D4 D6 E4 E6 F4 F6",
      "BOX LINE REDUCTION: Since number 5 in column 5 appears only in the centre block, this number can't be anywhere else in that block"},
-    {kBoxLine, {Row('J'), "9", "J7 J8 J9"}, "Box Line Reduction",
-     "Box Line Reduction: Row J => Removed candidate 9 from cell(s) G7 G8 G9 H7 H8 H9",
-     "BOX LINE REDUCTION: Since number 9 in row J appears only in the bottom right block, this number can't be anywhere else in that block"},
-
-    {kNakedPair, {kNoUnit, "37", "D2 D8"}, "Naked Pair",
+    {kNakedPair, Only("37", "D2 D8"), "Naked Pair",
      "Naked Pair: Row D => Removed candidates 3 and 7 from cells D1 D3 D4 D5 D6 D7 D9",
      "NAKED PAIR: Since cells D2 and D8 in row D contains only the candidates 3 and 7, those candidates can't appear anywhere else in that row"},
-    {kNakedPair, {kNoUnit, "12", "B6 H6"}, "Naked Pair",
-     "Naked Pair: Column 6 => Removed candidates 1 and 2 from cells A6 C6 D6 E6 F6 G6 J6",
-     "NAKED PAIR: Since cells B6 and H6 in column 6 contains only the candidates 1 and 2, those candidates can't appear anywhere else in that column"},
-    {kNakedPair, {kNoUnit, "59", "D4 F6"}, "Naked Pair",
-     "Naked Pair: Box 5 => Removed candidates 5 and 9 from cells D5 D6 E4 E5 E6 F4 F5",
-     "NAKED PAIR: Since cells D4 and F6 in the centre block contains only the candidates 5 and 9, those candidates can't appear anywhere else in that block"},
-    {kNakedTriple, {kNoUnit, "123", "A1 A5 A9"}, "Naked Triple",
+    {kNakedTriple, Only("123", "A1 A5 A9"), "Naked Triple",
      "Naked Triple: Row A => Removed candidates 1, 2 and 3 from cells A2 A3 A4 A6 A7 A8",
      "NAKED TRIPLE: Since cells A1, A5 and A9 in row A contains only the candidates 1, 2 and 3, those candidates can't appear anywhere else in that row"},
-    {kNakedQuad, {kNoUnit, "2468", "A3 D3 G3 J3"}, "Naked Quad",
+    {kNakedQuad, Only("2468", "A3 D3 G3 J3"), "Naked Quad",
      "Naked Quad: Column 3 => Removed candidates 2, 4, 6 and 8 from cells B3 C3 E3 F3 H3",
      "NAKED QUAD: Since cells A3, D3, G3 and J3 in column 3 contains only the candidates 2, 4, 6 and 8, those candidates can't appear anywhere else in that column"},
-    {kNakedQuint, {kNoUnit, "13579", "G7 G9 H8 J7 J9"}, "Naked Quint",
+    {kNakedQuint, Only("13579", "G7 G9 H8 J7 J9"), "Naked Quint",
      "Naked Quint: Box 9 => Removed candidates 1, 3, 5, 7 and 9 from cells G8 H7 H9 J8",
      "NAKED QUINT: Since cells G7, G9, H8, J7 and J9 in the bottom right block contains only the candidates 1, 3, 5, 7 and 9, those candidates can't appear anywhere else in that block"},
-
     {kHiddenPair, {Row('J'), "46", "J1 J9"}, "Hidden Pair",
      "Hidden Pair: Row J => Kept candidates 4 and 6 in cells J1 J9",
      "HIDDEN PAIR: Since candidates 4 and 6 in row J only occurs in cells J1 and J9, all other candidates can be discarded from those cells."},
-    {kHiddenPair, {Column(4), "18", "C4 G4"}, "Hidden Pair",
-     "Hidden Pair: Column 4 => Kept candidates 1 and 8 in cells C4 G4",
-     "HIDDEN PAIR: Since candidates 1 and 8 in column 4 only occurs in cells C4 and G4, all other candidates can be discarded from those cells."},
-    {kHiddenPair, {Box(2), "29", "A7 C8"}, "Hidden Pair",
-     "Hidden Pair: Box 3 => Kept candidates 2 and 9 in cells A7 C8",
-     "HIDDEN PAIR: Since candidates 2 and 9 in the top right block only occurs in cells A7 and C8, all other candidates can be discarded from those cells."},
-    {kHiddenTriple, {Row('B'), "357", "B2 B5 B8"}, "Hidden Triple",
-     "Hidden Triple: Row B => Kept candidates 3, 5 and 7 in cells B2 B5 B8",
-     "HIDDEN TRIPLE: Since candidates 3, 5 and 7 in row B only occurs in cells B2, B5 and B8, all other candidates can be discarded from those cells."},
     {kHiddenTriple, {Column(7), "689", "A7 E7 F7"}, "Hidden Triple",
      "Hidden Triple: Column 7 => Kept candidates 6, 8 and 9 in cells A7 E7 F7",
      "HIDDEN TRIPLE: Since candidates 6, 8 and 9 in column 7 only occurs in cells A7, E7 and F7, all other candidates can be discarded from those cells."},
@@ -131,6 +81,20 @@ TEST(Texts, AreThoseOfTheirPattern) {
         EXPECT_EQ(HintText(first.found), c.hint);
         const int level = c.step <= kNakedSingle ? 1 : c.step <= kBoxLine ? 2 : 3;
         EXPECT_EQ(StepAt(c.step).level, level);
+    }
+}
+
+TEST(Texts, NameTheNineBlocks) {
+    const char* const names[] = {"top left",    "top middle",    "top right",
+                                 "left centre", "centre",        "right centre",
+                                 "bottom left", "bottom middle", "bottom right"};
+    for (int box = 0; box < 9; ++box) {
+        const std::string place = CellName(27 * (box / 3) + 3 * (box % 3));
+        const Grid grid = GridWith({{Box(box), "5", place}});
+        EXPECT_EQ(HintText(SearchFirst(StepAt(kPointingPair), grid).found),
+                  "POINTING PAIR: Since number 5 in the " + std::string(names[box]) +
+                      " block appears only in row " + place[0] +
+                      ", this number can't be in any other block of that same row");
     }
 }
 

@@ -1,15 +1,59 @@
-// The searches of the ladder, family by family, and the texts that belong to them.
+// The kinds of hint; the searches of the ladder, family by family, and the texts of their finds.
 //
 // A search offers its finds in its scan order and stops when the sink has enough. A find always
 // changes something; its texts are written from the find alone.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "solver/find.h"
 #include "solver/position.h"
 
 namespace vemo {
+
+// The kinds of hint; the numbers are those of the table of titles.
+enum class HintKind : std::uint8_t {
+    None = 0,
+    NakedSingle = 1,
+    HiddenSingle,
+    PointingPair,
+    BoxLine,
+    Subset,
+    XWing,
+    Swordfish,
+    MultiXWing,
+    EmptyRectangle,
+    XYWing,
+    XYZWing,
+    ColorTrap,
+    Jellyfish,
+    WXYZWing,
+    FinnedXWing,
+    PairExclusion,
+    TripleExclusion,
+    XYChain,
+    DoubleImplication,
+    Bifurcation,
+    ColorWrap,
+    MultiColor1,
+    MultiColor2,
+    BivalueGrave,
+    TwoStringKite,
+    Skyscraper,
+    SueDeCoq,
+    NiceLoop,
+    UniqueRectangle,
+    AvoidableRectangle,
+    AlternatingChain,
+    BivalueAlsXz,
+    AlsXz,
+    Medusa,
+    ForcingFromCell,
+    ForcingFromUnit,
+    MultiFish,
+};
+inline constexpr int kHintKinds = static_cast<int>(HintKind::MultiFish);
 
 // What a row of the ladder passes to its search; a search reads the fields that it knows.
 struct Args {

@@ -1,6 +1,7 @@
 // What unique and avoidable rectangles have in common.
 #include "solver/techniques/rectangles.h"
 
+#include "solver/techniques/families.h"
 #include "solver/text.h"
 
 namespace vemo {

@@ -1,0 +1,42 @@
+// Which puzzles of a collection are looked for.
+#pragma once
+
+#include <bitset>
+#include <optional>
+#include <stop_token>
+
+#include "solver/catalogue.h"
+#include "tools/dig.h"
+#include "tools/rated_puzzle.h"
+
+namespace vemo {
+
+struct NumberRange {
+    int least = 0;
+    int most = 0;
+
+    bool Holds(int number) const { return number >= least && number <= most; }
+};
+
+// 0..9: how many of the nine digits occur among the clues, and how many boxes have no clue.
+int DifferentDigits(const Digits& clues);
+int EmptyBoxes(const Digits& clues);
+
+struct PuzzleFilter {
+    ClueRange clues{};
+    // A symmetry, or its absence, that the places of the clues have.
+    std::optional<Symmetry> symmetry{};
+    bool isSymmetrical = false;  // any of them
+    NumberRange digits{0, kDigits};
+    NumberRange emptyBoxes{0, 9};
+    // Those that need the ladder: none, and no level set, where it does not matter.
+    std::bitset<kLevels + 1> levels{};
+    int neededSlot = kNoSlot;
+
+    bool AsksForRating() const { return levels.any() || neededSlot != kNoSlot; }
+    // What can be seen without solving.
+    bool LikesClues(const Digits& clues) const;
+    bool LikesRating(const RatedPuzzle& rated) const;
+};
+
+}  // namespace vemo
