@@ -34,6 +34,7 @@ openbox             without a window manager no window becomes active
 xdotool             the real clicks
 x11-utils           asks whether the window manager runs
 imagemagick         pictures of windows
+parallel            a list spread over two jobs
 '
 
 Packages() { # GROUP...: the names in these groups, one a line

@@ -35,6 +35,8 @@ Command SolveCommand();
 Command RateCommand();
 Command HintCommand();
 Command FindCommand();
+Command ImportCommand();
+Command ExportCommand();
 Command CheckCommand();
 Command FilterCommand();
 Command DedupeCommand();
@@ -42,10 +44,10 @@ Command GenerateCommand();
 Command LevelsCommand();
 Command MakeLevelsCommand();
 
-inline std::array<Command, 10> Commands() {
-    return {SolveCommand(),  RateCommand(),      HintCommand(),   FindCommand(),
-            CheckCommand(),  FilterCommand(),    DedupeCommand(), GenerateCommand(),
-            LevelsCommand(), MakeLevelsCommand()};
+inline std::array<Command, 12> Commands() {
+    return {SolveCommand(),  RateCommand(),     HintCommand(),   FindCommand(),
+            ImportCommand(), ExportCommand(),   CheckCommand(),  FilterCommand(),
+            DedupeCommand(), GenerateCommand(), LevelsCommand(), MakeLevelsCommand()};
 }
 
 // The options of every command that reads a list of puzzles.

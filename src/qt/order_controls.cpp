@@ -90,6 +90,7 @@ QWidget* OrderControls::MakeLevels() {
         wanted_[at]->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
         kept_[at] = MakeLabel(QString(), levels);
         kept_[at]->setObjectName(u"LabelKept%1"_s.arg(level));
+        kept_[at]->setAccessibleName(name + u" sudokus made"_s);
         grid->addWidget(MakeLabel(name, levels), level, 0);
         grid->addWidget(wanted_[at], level, 1);
         grid->addWidget(kept_[at], level, 2);

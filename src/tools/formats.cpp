@@ -6,46 +6,25 @@
 #include <string>
 #include <vector>
 
+#include "tools/file_formats.h"
 #include "tools/puzzle_line.h"
+#include "tools/text_rows.h"
 
 namespace vemo {
 namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr std::size_t kRows = 9;
-constexpr std::string_view kSeparators = " \t|,;:+!";
-constexpr std::string_view kFieldSeparators = ",;\t";
-constexpr std::string_view kBorderCharacters = " \t|:+-=*.'`,";
-
-// The plain character for one of the box-drawing characters U+2500 to U+257F; none for any other.
-std::optional<char> PlainBorder(std::string_view character) {
-    if (character.size() != 3 || character[0] != '\xE2' ||
-        (character[1] != '\x94' && character[1] != '\x95')) {
-        return std::nullopt;
-    }
-    static constexpr std::array<std::string_view, 5> kHorizontal = {"\u2500", "\u2501", "\u2550",
-                                                                    "\u2504", "\u2508"};
-    static constexpr std::array<std::string_view, 5> kVertical = {"\u2502", "\u2503", "\u2551",
-                                                                  "\u2506", "\u250A"};
-    if (std::ranges::find(kHorizontal, character) != kHorizontal.end()) {
-        return '-';
-    }
-    return std::ranges::find(kVertical, character) != kVertical.end() ? '|' : '+';
-}
-
-// The lines that count, as they stand but for drawn borders.
+// The lines that count, in plain characters.
 Lines LinesOf(std::string_view text) {
     Lines lines(1);
     while (!text.empty()) {
-        const std::string_view character = text.substr(0, FirstCharacterLength(text));
-        text.remove_prefix(character.size());
-        if (character == "\n" || character == "\r" || character == "\r\n") {
+        const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+        lines.back() = PlainText(text.substr(0, end));
+        text.remove_prefix(end);
+        if (!text.empty()) {
+            text.remove_prefix(FirstCharacterLength(text));
             lines.emplace_back();
-        } else if (const std::optional<char> border = PlainBorder(character)) {
-            lines.back() += *border;
-        } else {
-            lines.back() += character;
         }
     }
     return lines;
@@ -56,75 +35,21 @@ Lines WithoutBlankLines(Lines lines) {
     return lines;
 }
 
-// A line that only frames the rows. One without crossings may as well be a row of empty cells.
-enum class Borders : std::uint8_t { WithCrossings, All };
-
-bool IsBorder(std::string_view line, Borders which) {
-    const bool hasRun = line.find("---") != line.npos || line.find("===") != line.npos;
-    return hasRun && line.find_first_not_of(kBorderCharacters) == line.npos &&
-           (which == Borders::All || line.find_first_of("+=") != line.npos);
-}
-
 Lines WithoutBorders(Lines lines, Borders which) {
     std::erase_if(lines, [&](const std::string& line) { return IsBorder(line, which); });
     return lines;
 }
 
-// Nine cells, anything between them a separator; nothing for any other line.
-std::optional<std::string> PlainRow(std::string_view line) {
-    std::string cells;
-    for (char character : line) {
-        if (IsCell(character)) {
-            cells += character;
-        } else if (kSeparators.find(character) == kSeparators.npos) {
-            return std::nullopt;
-        }
-    }
-    return cells.size() == kRows ? std::optional(cells) : std::nullopt;
-}
-
-// Nine characters, bars aside, of which blanks are empty cells.
-std::optional<std::string> RowWithBlanks(std::string_view line) {
-    std::string cells(line);
-    std::erase(cells, '|');
-    const bool isRow = cells.size() == kRows && std::ranges::all_of(cells, [](char character) {
-                           return character == ' ' || IsCell(character);
-                       });
-    return isRow ? std::optional(cells) : std::nullopt;
-}
-
-std::string Trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    return first == text.npos
-               ? std::string()
-               : std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
-}
-
-// Nine fields as tables have them, of which some are left empty.
-std::optional<std::string> RowOfFields(std::string_view line) {
-    std::string cells;
-    for (std::size_t start = 0; start <= line.size();) {
-        const std::size_t end = std::min(line.find_first_of(kFieldSeparators, start), line.size());
-        const std::string field = Trimmed(line.substr(start, end - start));
-        if (field.size() > 1 || (field.size() == 1 && !IsCell(field[0]))) {
-            return std::nullopt;
-        }
-        cells += field.empty() ? ' ' : field[0];
-        start = end + 1;
-    }
-    return cells.size() == kRows ? std::optional(cells) : std::nullopt;
-}
-
-using RowReader = std::optional<std::string> (*)(std::string_view line);
+using RowReader = std::optional<PlainCells> (*)(std::string_view line);
 
 std::optional<Digits> ReadRows(const Lines& lines, RowReader read) {
-    if (lines.size() != kRows) {
+    if (lines.size() != kRowCells) {
         return std::nullopt;
     }
     Digits digits{};
     auto next = digits.begin();
     for (const std::string& line : lines) {
-        const std::optional<std::string> cells = read(line);
+        const std::optional<PlainCells> cells = read(line);
         if (!cells) {
             return std::nullopt;
         }
@@ -162,64 +87,28 @@ std::optional<Digits> ReadAnyRows(const Lines& lines) {
     return ReadRows(table, RowOfFields);
 }
 
-// The groups of digits of a line, nothing where it holds anything else or a digit twice in a group.
-std::optional<std::vector<Marks>> GroupsOf(std::string_view line) {
-    std::vector<Marks> groups;
-    bool isInGroup = false;
-    for (char character : line) {
-        const int digit = DigitOf(character);
-        if (digit == 0) {
-            if (kSeparators.find(character) == kSeparators.npos) {
-                return std::nullopt;
-            }
-            isInGroup = false;
-            continue;
-        }
-        if (!isInGroup) {
-            groups.push_back(0);
-            isInGroup = true;
-        }
-        if (HasMark(groups.back(), digit)) {
-            return std::nullopt;
-        }
-        groups.back() |= MarkOf(digit);
-    }
-    return groups;
-}
-
-using MarkTable = std::array<Marks, kCells>;
-
-Digits CluesOf(const MarkTable& table) {
-    const auto marksAt = [&](int cell) { return table[static_cast<std::size_t>(cell)]; };
-    Digits clues{};
-    for (int cell = 0; cell < kCells; ++cell) {
-        const Marks marks = marksAt(cell);
-        bool isClue = BitCount(marks) == 1;
-        for (int peer : Peers(cell)) {
-            isClue = isClue && (marksAt(peer) & marks) == 0;
-        }
-        if (isClue) {
-            clues[static_cast<std::size_t>(cell)] = static_cast<std::uint8_t>(FirstDigit(marks));
-        }
-    }
-    return clues;
-}
-
 std::optional<Digits> ReadPencilMarks(const Lines& lines) {
     const Lines rows = WithoutBorders(WithoutBlankLines(lines), Borders::All);
-    if (rows.size() != kRows) {
+    if (rows.size() != kRowCells) {
         return std::nullopt;
     }
-    MarkTable table{};
-    auto next = table.begin();
+    std::array<std::optional<Marks>, kCells> table{};
+    CellSet entered;
+    int cell = 0;
     for (const std::string& row : rows) {
-        const std::optional<std::vector<Marks>> groups = GroupsOf(row);
-        if (!groups || groups->size() != kRows) {
+        const std::optional<CandidateRow> groups = RowOfCandidates(row);
+        if (!groups) {
             return std::nullopt;
         }
-        next = std::ranges::copy(*groups, next).out;
+        for (const CandidateGroup& group : *groups) {
+            table[static_cast<std::size_t>(cell)] = group.marks;
+            if (group.isEntered) {
+                entered.Add(cell);
+            }
+            ++cell;
+        }
     }
-    return CluesOf(table);
+    return CluesOf(OfCandidates(table, entered));
 }
 
 std::optional<Digits> ReadLine(const Lines& lines) {

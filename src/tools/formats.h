@@ -27,7 +27,8 @@ inline constexpr std::size_t kLongestPuzzleText = 65536;
 // Exactly one puzzle, in one of the formats; nothing where the text is anything else, or more.
 // Blank lines and lines that begin with '#' count for nothing. An empty cell is one of . 0 * _ - x
 // X, a blank where all nine lines are nine characters wide, or nothing between two commas,
-// semicolons or tabs. In a grid of pencil marks a single digit is a clue where no peer lists it.
+// semicolons or tabs. In a grid of pencil marks a single digit is a clue where no peer lists it and
+// no 'u' stands before it. Unicode's other blanks, digits and borders count as the plain ones.
 // Clues that clash are no fault here.
 std::optional<RecognizedPuzzle> RecognizePuzzle(std::string_view text);
 

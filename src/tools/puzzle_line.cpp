@@ -12,7 +12,6 @@ namespace vemo {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr std::string_view kBlankCells = ".0*_-xX";
 constexpr std::size_t kMostFields = 3;
 
 using MarkTable = std::array<Marks, kCells>;
@@ -196,15 +195,6 @@ std::string WriteMarks(const Grid& grid) {
 }
 
 }  // namespace
-
-std::uint8_t DigitOf(char character) {
-    return character >= '1' && character <= '9' ? static_cast<std::uint8_t>(character - '0')
-                                                : std::uint8_t{0};
-}
-
-bool IsCell(char character) {
-    return DigitOf(character) != 0 || kBlankCells.find(character) != kBlankCells.npos;
-}
 
 std::string_view WithoutByteOrderMark(std::string_view text) {
     return text.starts_with(kByteOrderMark) ? text.substr(kByteOrderMark.size()) : text;

@@ -7,6 +7,8 @@
 // givens  like grid81. An empty or missing field: every filled cell is given.
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -15,9 +17,22 @@
 namespace vemo {
 
 // 1 to 9; 0 for any other character.
-std::uint8_t DigitOf(char character);
-// A digit, or a character for an empty cell.
-bool IsCell(char character);
+constexpr std::uint8_t DigitOf(char character) {
+    return character >= '1' && character <= '9' ? static_cast<std::uint8_t>(character - '0')
+                                                : std::uint8_t{0};
+}
+
+// By character: is it a digit, or one for an empty cell?
+inline constexpr std::array<bool, 256> kIsCell = [] {
+    std::array<bool, 256> table{};
+    for (char character : std::string_view("123456789.0*_-xX")) {
+        table[static_cast<unsigned char>(character)] = true;
+    }
+    return table;
+}();
+constexpr bool IsCell(char character) {
+    return kIsCell[static_cast<unsigned char>(character)];
+}
 
 // The text without a UTF-8 byte-order mark in front.
 std::string_view WithoutByteOrderMark(std::string_view text);

@@ -47,6 +47,14 @@ if [[ -c /dev/full ]]; then
 fi
 Expect 'a closed pipe' 3 'cannot be written' WriteToClosedPipe
 
+# A list in parts, two jobs at a time: what docs/batch.md shows.
+if command -v parallel >/dev/null; then
+    (cd "$scratch" && grep -v '^#' "$list" | split --lines 150 --additional-suffix .part - list- &&
+        parallel --will-cite --jobs 2 "$program" rate --quiet --threads 1 --resume {.}.rated {} \
+            ::: list-*.part) 2>"$scratch/err" || Fail "parallel jobs: $(cat "$scratch/err")"
+    cat "$scratch"/list-*.rated | cmp -s - <("$program" rate "$list") || Fail 'parallel jobs: other results'
+fi
+
 # What is installed beside the program.
 "$program" --bash-completion >"$scratch/completion" && bash -n "$scratch/completion" ||
     Fail 'the completion is no script'
