@@ -25,11 +25,11 @@ class LevelsTest : public GameTest {
         view.Expect("Congratulations", kNewSudokuTime);
         view.Expect("Congratulations", kNewLevelTime);
     }
-    void ExpectNumber(std::optional<std::string> reply) {
-        view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", std::move(reply));
+    void ExpectNumber(const std::optional<std::string>& reply) {
+        view.ExpectQuestion("Sudoku number", "Enter a value between 1 and 3", reply);
     }
-    void OpenNumber(std::optional<std::string> reply) {
-        ExpectNumber(std::move(reply));
+    void OpenNumber(const std::optional<std::string>& reply) {
+        ExpectNumber(reply);
         game->mnuSudokuOpen();
     }
     LevelStatistics Kept(int level) { return Records().ReadStatistics(level); }
