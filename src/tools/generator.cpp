@@ -165,6 +165,7 @@ class Generator::Work {
   private:
     struct Found {
         RatedPuzzle puzzle;
+        Digits form{};  // canonical; of unrated puzzles none is needed
         int tries = 0;  // of the chunk, this one included
     };
     struct Chunk {
@@ -186,7 +187,7 @@ class Generator::Work {
     void TakeOver();
     void TakeOver(const Chunk& chunk, const Lane& lane);
     void TakeOverTheRest();
-    void Keep(const RatedPuzzle& puzzle);
+    void Keep(const Found& found);
     void End(Ending ending);
 
     const GeneratorSettings settings_;
@@ -308,7 +309,10 @@ Generator::Work::Chunk Generator::Work::RunChunk(Lane& lane, LevelSet open) {
         ++chunk.tries;
         ++tried_;
         if (found) {
-            chunk.found.push_back({*found, chunk.tries});
+            const PuzzleRecord& made = found->puzzle;
+            const Digits form =
+                found->rating > 0 ? CanonicalForm(made.clues, made.solution) : Digits{};
+            chunk.found.push_back({*found, form, chunk.tries});
         }
     }
     return chunk;
@@ -341,7 +345,7 @@ void Generator::Work::TakeOver(const Chunk& chunk, const Lane& lane) {
             break;
         }
         tries = found.tries;
-        Keep(found.puzzle);
+        Keep(found);
         if (OpenLevelsOf(lane).none()) {
             break;
         }
@@ -362,22 +366,20 @@ void Generator::Work::TakeOverTheRest() {
     for (Lane& lane : lanes_) {
         for (const Chunk& chunk : lane.finished) {
             for (const Found& found : chunk.found) {
-                Keep(found.puzzle);
+                Keep(found);
             }
             triesTakenOver_ += chunk.tries;
         }
     }
 }
 
-void Generator::Work::Keep(const RatedPuzzle& puzzle) {
-    const auto level = static_cast<std::size_t>(puzzle.rating);
-    const PuzzleRecord& record = puzzle.puzzle;
+void Generator::Work::Keep(const Found& found) {
+    const auto level = static_cast<std::size_t>(found.puzzle.rating);
     // Unrated puzzles are made in bulk, and chance does not repeat one.
-    if (filled_[level] ||
-        (level > 0 && !known_.insert(CanonicalForm(record.clues, record.solution)).second)) {
+    if (filled_[level] || (level > 0 && !known_.insert(found.form).second)) {
         return;
     }
-    made_.push_back(puzzle);
+    made_.push_back(found.puzzle);
     filled_[level] = ++kept_[level] == settings_.wanted[level];
 }
 
