@@ -29,26 +29,6 @@ std::string Notes() {
     return notes.append(".\n\n").append(kPuzzleNotes).append(kListNotes);
 }
 
-// Reads "A-B" or "A", where the option is given; answers a message where it is neither.
-template <typename Range>
-std::string ReadRange(const Arguments& arguments, const Option& option, int most, Range range) {
-    const auto text = arguments.ValueOf(option.name);
-    if (!text) {
-        return "";
-    }
-    const std::size_t dash = text->find('-');
-    const auto first = WholeNumber(text->substr(0, dash), 0, static_cast<std::uint64_t>(most));
-    const auto last = dash == text->npos ? first
-                                         : WholeNumber(text->substr(dash + 1), 0,
-                                                       static_cast<std::uint64_t>(most));
-    if (!first || !last || *first > *last) {
-        return std::string(option.name) + " is a number or two such as 3-5, up to " +
-               std::to_string(most) + ": " + std::string(*text);
-    }
-    range(static_cast<int>(*first), static_cast<int>(*last));
-    return "";
-}
-
 std::string ReadLevels(std::string_view list, PuzzleFilter& filter) {
     while (true) {
         const std::string_view word = list.substr(0, list.find(','));
@@ -65,18 +45,13 @@ std::string ReadLevels(std::string_view list, PuzzleFilter& filter) {
 }
 
 std::string ReadFilter(const Arguments& arguments, PuzzleFilter& filter) {
-    std::string error = ReadRange(arguments, kCluesOption, kCells, [&](int least, int most) {
-        filter.clues = {least, most};
-    });
-    const auto read = [&](const Option& option, NumberRange& range) {
-        error = error.empty() ? ReadRange(arguments, option, kDigits,
-                                          [&](int least, int most) {
-                                              range = {least, most};
-                                          })
-                              : error;
+    std::string error;
+    const auto read = [&](const Option& option, int most, int& first, int& last) {
+        error = error.empty() ? ReadRangeOf(arguments, option, most, first, last) : error;
     };
-    read(kDigitsOption, filter.digits);
-    read(kBoxesOption, filter.emptyBoxes);
+    read(kCluesOption, kCells, filter.clues.fewest, filter.clues.most);
+    read(kDigitsOption, kDigits, filter.digits.least, filter.digits.most);
+    read(kBoxesOption, kDigits, filter.emptyBoxes.least, filter.emptyBoxes.most);
     if (const auto word = arguments.ValueOf(kSymmetryOption.name); word && error.empty()) {
         filter.isSymmetrical = *word == "any";
         filter.symmetry = SymmetryNamed(*word);

@@ -58,18 +58,13 @@ struct Order {
 };
 
 std::string ReadClues(const Arguments& arguments, GeneratorSettings& settings) {
-    const auto text = arguments.ValueOf(kCluesOption.name);
-    if (!text) {
-        return "";
+    ClueRange clues;
+    const std::string error =
+        ReadRangeOf(arguments, kCluesOption, kCells, clues.fewest, clues.most);
+    if (arguments.Has(kCluesOption.name)) {
+        settings.clues = clues;
     }
-    const std::size_t dash = std::min(text->find('-'), text->size());
-    const auto fewest = WholeNumber(text->substr(0, dash), 0, kCells);
-    const auto most = WholeNumber(text->substr(std::min(dash + 1, text->size())), 0, kCells);
-    if (!fewest || !most) {
-        return "--clues is two numbers from 0 to 81, such as 24-30: " + std::string(*text);
-    }
-    settings.clues = {static_cast<int>(*fewest), static_cast<int>(*most)};
-    return "";
+    return error;
 }
 
 std::string ReadNames(const Arguments& arguments, GeneratorSettings& settings) {

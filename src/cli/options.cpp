@@ -72,4 +72,25 @@ std::optional<std::uint64_t> WholeNumber(std::string_view text, std::uint64_t le
     return isNumber && number >= least && number <= most ? std::optional(number) : std::nullopt;
 }
 
+std::string ReadRangeOf(const Arguments& arguments, const Option& option, int most, int& first,
+                        int& last) {
+    const auto text = arguments.ValueOf(option.name);
+    if (!text) {
+        return "";
+    }
+    const auto numberOf = [&](std::string_view word) {
+        return WholeNumber(word, 0, static_cast<std::uint64_t>(most));
+    };
+    const std::size_t dash = text->find('-');
+    const auto from = numberOf(text->substr(0, dash));
+    const auto to = dash == text->npos ? from : numberOf(text->substr(dash + 1));
+    if (!from || !to || *from > *to) {
+        return std::string(option.name) + " is a number or two such as 3-5, up to " +
+               std::to_string(most) + ": " + std::string(*text);
+    }
+    first = static_cast<int>(*from);
+    last = static_cast<int>(*to);
+    return "";
+}
+
 }  // namespace vemo

@@ -53,4 +53,9 @@ std::string ReadNumberOf(const Arguments& arguments, const Option& option, std::
     return "";
 }
 
+// Reads an option's "A-B", or "A" for both, where the option is given; answers a message where it
+// is neither.
+std::string ReadRangeOf(const Arguments& arguments, const Option& option, int most, int& first,
+                        int& last);
+
 }  // namespace vemo

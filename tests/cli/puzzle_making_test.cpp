@@ -72,7 +72,7 @@ TEST_F(PuzzleMaking, GenerateTellsWhatIsMissingAndLosesNoPuzzle) {
     EXPECT_EQ(LineCount(folder.out), 1) << "the puzzle stands among the results";
 
     for (const char* wrong :
-         {"--levels=easy", "--levels=simple:3", "--levels=easy:1,", "--clues=30",
+         {"--levels=easy", "--levels=simple:3", "--levels=easy:1,", "--clues=30-", "--clues=31-30",
           "--symmetry=round", "--needs=2", "--threads=0", "--seed=x"}) {
         const Outcome refused = Invoke({"generate", "--levels=easy:1", wrong});
         EXPECT_EQ(refused.code, ExitCode::Usage) << wrong;
