@@ -2,13 +2,12 @@
 #include "platform/plain_files.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <chrono>
-#include <cstring>
 #include <fstream>
 #include <ios>
-#include <random>
 #include <system_error>
+
+#include "platform/file_pieces.h"
+#include "platform/replacing_file.h"
 
 namespace vemo {
 namespace {
@@ -19,70 +18,11 @@ namespace fs = std::filesystem;
 // only. No system has smaller pages than these.
 constexpr std::uint64_t kPageSize = 4096;
 
-constexpr const char* kOfAWriter = ".vemo-";
-constexpr const char* kHalfWritten = ".new";
-// Nobody is still at a half-written file that is older.
-constexpr std::chrono::minutes kLongestWrite(10);
-
 bool LiesInOnePage(std::uint64_t offset, std::size_t length) {
     return length == 0 || offset / kPageSize == (offset + length - 1) / kPageSize;
 }
 
-FileError ErrorOf(const fs::path& path, const char* deed) {
-    const int code = errno;
-    return {path, std::string(deed) + (code != 0 ? std::string(": ") + std::strerror(code) : "")};
-}
-
-std::span<const char> AsChars(std::span<const std::uint8_t> bytes) {
-    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
-}
-
-// What a program that was killed while it wrote `target` left beside it.
-void RemoveStale(const fs::path& target) {
-    const std::string start = Utf8(target.filename()) + kOfAWriter;
-    std::error_code error;
-    for (fs::directory_iterator at(target.parent_path(), error), end; !error && at != end;
-         at.increment(error)) {
-        const std::string name = Utf8(at->path().filename());
-        if (!name.starts_with(start) || !name.ends_with(kHalfWritten)) {
-            continue;
-        }
-        std::error_code gone;
-        const bool isLink = at->is_symlink(gone);
-        const auto written = at->last_write_time(gone);
-        if (!gone && !isLink && fs::file_time_type::clock::now() - written > kLongestWrite) {
-            fs::remove(at->path(), gone);
-        }
-    }
-}
-
-// A stream without a buffer of its own hands each write to the system as one call.
-bool OpenUnbuffered(std::fstream& file, const fs::path& path, std::ios::openmode mode) {
-    file.rdbuf()->pubsetbuf(nullptr, 0);
-    errno = 0;
-    file.open(path, mode | std::ios::binary);
-    return file.is_open();
-}
-
-std::optional<FileError> WriteAll(std::fstream& file, const fs::path& path,
-                                  std::span<const std::uint8_t> bytes) {
-    const std::span<const char> chars = AsChars(bytes);
-    errno = 0;
-    file.write(chars.data(), static_cast<std::streamsize>(chars.size()));
-    file.flush();
-    const bool written = file.good();
-    file.close();
-    if (!written || file.fail()) {
-        return ErrorOf(path, "cannot be written");
-    }
-    return std::nullopt;
-}
-
 }  // namespace
-
-PlainFiles::PlainFiles(const std::string& writer)
-    : ending_(kOfAWriter + (writer.empty() ? std::to_string(std::random_device()()) : writer) +
-              kHalfWritten) {}
 
 std::optional<std::uint64_t> PlainFiles::Size(const fs::path& path) {
     std::error_code error;
@@ -141,7 +81,10 @@ std::optional<FileError> PlainFiles::WriteAt(const fs::path& path, std::uint64_t
     if (!file.good()) {
         return ErrorOf(path, "cannot be written");
     }
-    return WriteAll(file, path, bytes);
+    const bool isWritten = WritePiece(file, bytes);
+    file.close();
+    return isWritten && !file.fail() ? std::nullopt
+                                     : std::optional(ErrorOf(path, "cannot be written"));
 }
 
 std::optional<FileError> PlainFiles::ReplacePart(const fs::path& path, std::uint64_t offset,
@@ -159,32 +102,9 @@ std::optional<FileError> PlainFiles::ReplacePart(const fs::path& path, std::uint
 
 std::optional<FileError> PlainFiles::Replace(const fs::path& path,
                                              std::span<const std::uint8_t> bytes) {
-    std::error_code error;
-    const fs::path target = fs::is_symlink(path, error) ? fs::canonical(path, error) : path;
-    if (target.empty()) {
-        return FileError{path, "cannot be written: " + error.message()};
-    }
-    if (fs::exists(target, error) && !fs::is_regular_file(target, error)) {
-        return FileError{path, "is no regular file"};
-    }
-    RemoveStale(target);
-    fs::path beside = target;
-    beside += ending_;
-    std::fstream file;
-    if (!OpenUnbuffered(file, beside, std::ios::out | std::ios::trunc)) {
-        return ErrorOf(path, "cannot be written");
-    }
-    if (std::optional<FileError> failed = WriteAll(file, path, bytes)) {
-        fs::remove(beside, error);
-        return failed;
-    }
-    fs::rename(beside, target, error);
-    if (error) {
-        const FileError failed{path, "cannot be replaced: " + error.message()};
-        fs::remove(beside, error);
-        return failed;
-    }
-    return std::nullopt;
+    ReplacingFile file(path, writer_);
+    file.Write(bytes);
+    return file.Finish();
 }
 
 std::optional<FileError> PlainFiles::CopyIfMissing(const fs::path& from, const fs::path& to) {

@@ -1,6 +1,8 @@
 // Files on the standard library alone.
 #pragma once
 
+#include <utility>
+
 #include "platform/files.h"
 
 namespace vemo {
@@ -9,7 +11,7 @@ class PlainFiles final : public Files {
   public:
     // `writer` tells this program's half-written files from those of another that writes the same
     // file meanwhile: "<file>.vemo-<writer>.new". Without one, a number drawn at random.
-    explicit PlainFiles(const std::string& writer = "");
+    explicit PlainFiles(std::string writer = "") : writer_(std::move(writer)) {}
 
     std::optional<std::uint64_t> Size(const std::filesystem::path& path) override;
     std::optional<Bytes> ReadAt(const std::filesystem::path& path, std::uint64_t offset,
@@ -27,7 +29,7 @@ class PlainFiles final : public Files {
     std::optional<FileError> ReplacePart(const std::filesystem::path& path, std::uint64_t offset,
                                          std::span<const std::uint8_t> bytes);
 
-    std::string ending_;  // of a half-written file
+    std::string writer_;
 };
 
 }  // namespace vemo
