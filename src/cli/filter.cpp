@@ -68,7 +68,7 @@ std::string ReadFilter(const Arguments& arguments, PuzzleFilter& filter) {
 }
 
 bool IsLiked(const Digits& clues, const PuzzleFilter& filter) {
-    if (!filter.LikesClues(clues)) {
+    if (!filter.Likes(FactsOf(clues))) {
         return false;
     }
     if (!filter.AsksForRating()) {

@@ -85,15 +85,6 @@ struct Looked {
     Digits form{};
 };
 
-Digits GivensOf(const Grid& grid) {
-    Digits clues{};
-    for (int cell = 0; cell < kCells; ++cell) {
-        clues[static_cast<std::size_t>(cell)] =
-            static_cast<std::uint8_t>(grid.IsGiven(cell) ? grid.Digit(cell) : 0);
-    }
-    return clues;
-}
-
 class Import {
   public:
     Import(const Arguments& arguments, Streams& streams, int threads)
@@ -136,7 +127,7 @@ Looked Import::Look(ReadPiece piece) const {
     if (!looked.piece.IsPuzzle()) {
         return looked;
     }
-    looked.clues = GivensOf(looked.piece.grid);
+    looked.clues = looked.piece.Clues();
     if (isUniqueAsked_ || records_) {
         looked.solutions = FastCount(looked.clues);
     }

@@ -85,7 +85,8 @@ void GeneratorWindow::Start() {
     std::vector<PuzzleRecord> known;
     for (int level = 1; level <= kLevels; ++level) {
         if (searched_.wanted[static_cast<std::size_t>(level)] > 0) {
-            std::ranges::copy(files_.ReadPuzzles(level), std::back_inserter(known));
+            std::ranges::transform(files_.ReadPuzzles(level), std::back_inserter(known),
+                                   &NumberedPuzzle::record);
         }
     }
     for (const MadeSudoku& made : made_) {

@@ -8,6 +8,7 @@
 #include "game/play_levels.h"
 #include "solver/brute_force.h"
 #include "solver/solver.h"
+#include "tools/clue_facts.h"
 #include "tools/dig.h"
 #include "tools/formats.h"
 #include "tools/puzzle_line.h"
@@ -152,12 +153,6 @@ int MostEmptyLines(const Digits& clues, UnitKind kind) {
         }
     }
     return std::ranges::max(emptyLines);
-}
-
-int EmptyBoxes(const Digits& clues) {
-    return static_cast<int>(std::ranges::count_if(kUnits, [&](const Unit& unit) {
-        return unit.kind == UnitKind::Box && !HasClue(clues, unit);
-    }));
 }
 
 void Discard(Stage& stage) {
@@ -353,7 +348,7 @@ std::string UnmetRestriction(const Digits& clues) {
     if (MostEmptyLines(clues, UnitKind::Column) > kMostEmptyLines) {
         return "More than one empty column in the same stack is not allowed !";
     }
-    if (EmptyBoxes(clues) > kMostEmptyBoxes) {
+    if (FactsOf(clues).emptyBoxes > kMostEmptyBoxes) {
         return "More than four empty boxes are not allowed !";
     }
     return "";

@@ -84,17 +84,26 @@ std::optional<PuzzleRecord> RecordFiles::ReadPuzzle(int level, int number) {
     return UnpackPuzzle(std::span<const std::uint8_t, kPuzzleRecordSize>(*bytes));
 }
 
-std::vector<PuzzleRecord> RecordFiles::ReadPuzzles(int level) {
+std::vector<PuzzleRecord> RecordFiles::ReadRecords(int level) {
     const std::size_t length = static_cast<std::size_t>(PuzzleCount(level)) * kPuzzleRecordSize;
     const Bytes content = files_.ReadAt(PuzzlePath(level), 0, length).value_or(Bytes());
-    std::vector<PuzzleRecord> puzzles;
+    std::vector<PuzzleRecord> records;
     std::span<const std::uint8_t> rest(content);
     while (rest.size() >= kPuzzleRecordSize) {
-        const PuzzleRecord record = UnpackPuzzle(rest.first<kPuzzleRecordSize>());
-        if (IsWhole(record)) {
-            puzzles.push_back(record);
-        }
+        records.push_back(UnpackPuzzle(rest.first<kPuzzleRecordSize>()));
         rest = rest.subspan(kPuzzleRecordSize);
+    }
+    return records;
+}
+
+std::vector<NumberedPuzzle> RecordFiles::ReadPuzzles(int level) {
+    std::vector<NumberedPuzzle> puzzles;
+    int number = 0;
+    for (const PuzzleRecord& record : ReadRecords(level)) {
+        ++number;
+        if (IsWhole(record)) {
+            puzzles.push_back({number, record});
+        }
     }
     return puzzles;
 }

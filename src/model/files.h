@@ -18,6 +18,13 @@ namespace vemo {
 // The name of a level's puzzle file: "Sudoku_Easy.sds".
 std::string PuzzleFileName(int level);
 
+struct NumberedPuzzle {
+    int number = 0;
+    PuzzleRecord record;
+
+    bool operator==(const NumberedPuzzle&) const = default;
+};
+
 class RecordFiles {
   public:
     RecordFiles(Files& files, std::filesystem::path dataFolder);
@@ -37,8 +44,10 @@ class RecordFiles {
 
     // Nothing where the file has no such record or cannot be read.
     std::optional<PuzzleRecord> ReadPuzzle(int level, int number);
-    // All whole puzzles of the level, in one reading of the file; damaged records are passed over.
-    std::vector<PuzzleRecord> ReadPuzzles(int level);
+    // All records of the level, damaged ones too, in one reading of the file.
+    std::vector<PuzzleRecord> ReadRecords(int level);
+    // Those of them that are whole.
+    std::vector<NumberedPuzzle> ReadPuzzles(int level);
     std::optional<FileError> WritePuzzle(int level, int number, const PuzzleRecord& record);
 
     // Gives every puzzle of the level the best time 0:00, in one replacement of the file.

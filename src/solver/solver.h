@@ -45,6 +45,18 @@ enum class PassResult : std::uint8_t {
     Solved,   // a single was applied and filled the grid
 };
 
+// What the log says of a trial that fails: a cell was left without a candidate, or nothing was
+// found any more.
+struct TrialTexts {
+    std::string_view emptyCell;
+    std::string_view stalled;
+};
+inline constexpr TrialTexts kGameTrialTexts = {
+    "Current Bifurcation attempt failed due to empty cell",
+    "Current Bifurcation attempt failed: more than one Bifurcation needed"};
+inline constexpr TrialTexts kCollectionTrialTexts = {
+    "Bifurcation failed due to empty cell", "Bifurcation failed: more than one Bifurcation needed"};
+
 // State of one run, on a copy of the puzzle.
 class Solver {
   public:
@@ -56,6 +68,8 @@ class Solver {
     explicit Solver(const Grid& grid);
 
     void SetLog(LogSink log) { log_ = std::move(log); }
+    void SetTrialTexts(const TrialTexts& texts) { trialTexts_ = texts; }
+    const TrialTexts& TextsOfTrials() const { return trialTexts_; }
     void SetStepWatcher(StepWatcher watcher) { watcher_ = std::move(watcher); }
     // The puzzle's one solution, where it is known: finds that contradict it are counted, and a
     // debug build asserts that there are none.
@@ -113,6 +127,7 @@ class Solver {
     Find lastFind_;
     std::optional<Digits> solution_;
     LogSink log_;
+    TrialTexts trialTexts_ = kGameTrialTexts;
     StepWatcher watcher_;
 };
 

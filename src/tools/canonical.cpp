@@ -223,7 +223,7 @@ Digits CanonicalForm(const Digits& clues, const Digits& solution) {
 }
 
 void AddCanonicalForms(RecordFiles& records, int level, std::set<Digits>& forms) {
-    for (const PuzzleRecord& puzzle : records.ReadPuzzles(level)) {
+    for (const auto& [number, puzzle] : records.ReadPuzzles(level)) {
         forms.insert(CanonicalForm(puzzle.clues, puzzle.solution));
     }
 }

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <tuple>
 
-#include "solver/fast_count.h"
 #include "tools/canonical.h"
 #include "tools/random.h"
 
@@ -26,7 +25,10 @@ std::uint64_t HashOf(const Digits& digits) {
 }  // namespace
 
 PuzzleSigns SignsOf(const Digits& clues) {
-    const SolutionCount solutions = FastCount(clues);
+    return SignsOf(clues, FastCount(clues));
+}
+
+PuzzleSigns SignsOf(const Digits& clues, const SolutionCount& solutions) {
     const Digits form =
         solutions.IsUnique() ? CanonicalForm(clues, solutions.first) : CanonicalClues(clues);
     return {HashOf(form), static_cast<std::uint32_t>(HashOf(clues))};

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/grid.h"
+#include "solver/fast_count.h"
 
 namespace vemo {
 
@@ -16,6 +17,7 @@ struct PuzzleSigns {
     std::uint32_t exact = 0;  // of the clues as they stand
 };
 PuzzleSigns SignsOf(const Digits& clues);
+PuzzleSigns SignsOf(const Digits& clues, const SolutionCount& solutions);
 
 enum class Sameness : std::uint8_t { Exact, Equivalent };
 

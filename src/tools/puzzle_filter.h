@@ -3,9 +3,9 @@
 
 #include <bitset>
 #include <optional>
-#include <stop_token>
 
-#include "solver/catalogue.h"
+#include "solver/solver.h"
+#include "tools/clue_facts.h"
 #include "tools/dig.h"
 #include "tools/rated_puzzle.h"
 
@@ -16,11 +16,8 @@ struct NumberRange {
     int most = 0;
 
     bool Holds(int number) const { return number >= least && number <= most; }
+    bool operator==(const NumberRange&) const = default;
 };
-
-// 0..9: how many of the nine digits occur among the clues, and how many boxes have no clue.
-int DifferentDigits(const Digits& clues);
-int EmptyBoxes(const Digits& clues);
 
 struct PuzzleFilter {
     ClueRange clues{};
@@ -35,8 +32,14 @@ struct PuzzleFilter {
 
     bool AsksForRating() const { return levels.any() || neededSlot != kNoSlot; }
     // What can be seen without solving.
-    bool LikesClues(const Digits& clues) const;
+    bool Likes(const ClueFacts& facts) const;
+    bool LikesLevel(int level) const {
+        return levels.none() || levels[static_cast<std::size_t>(level)];
+    }
+    // By the fixed ladder.
     bool LikesRating(const RatedPuzzle& rated) const;
+
+    bool operator==(const PuzzleFilter&) const = default;
 };
 
 }  // namespace vemo

@@ -31,7 +31,8 @@ std::optional<RatedPuzzle> PuzzleSearch::Next(LevelSet open, const std::stop_tok
     if (!found || (walk != nullptr && !HasWishedClues(found->puzzle.clues))) {
         return std::nullopt;
     }
-    const bool isAsWished = wish_.neededSlot == kNoSlot || NeedsTechnique(*found, wish_.neededSlot);
+    const bool isAsWished =
+        wish_.neededSlot == kNoSlot || NeedsTechnique(*found, wish_.neededSlot, FixedLadder());
     return isAsWished ? found : std::nullopt;
 }
 

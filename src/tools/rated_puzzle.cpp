@@ -25,6 +25,12 @@ std::array<Ladder, kLevels + 1> LaddersByLevel() {
     return ladders;
 }
 
+void Heed(const std::stop_token& stop, Solver& solver) {
+    if (stop.stop_possible()) {
+        solver.SetStepWatcher([&](const Step&) { return !stop.stop_requested(); });
+    }
+}
+
 }  // namespace
 
 RatedPuzzle Rate(const PuzzleRecord& puzzle) {
@@ -35,9 +41,7 @@ std::optional<RatedPuzzle> RateUpTo(const PuzzleRecord& puzzle, int level,
                                     const std::stop_token& stop) {
     static const std::array<Ladder, kLevels + 1> kLadders = LaddersByLevel();
     Solver solver(Grid::FromClues(puzzle.clues));
-    if (stop.stop_possible()) {
-        solver.SetStepWatcher([&](const Step&) { return !stop.stop_requested(); });
-    }
+    Heed(stop, solver);
     const bool isSolved = RunToTheEnd(solver, kLadders[static_cast<std::size_t>(level)]);
     if (solver.IsStopped() || (!isSolved && level < kOutlaw)) {
         return std::nullopt;
@@ -46,13 +50,31 @@ std::optional<RatedPuzzle> RateUpTo(const PuzzleRecord& puzzle, int level,
                        solver.StepCount()};
 }
 
-bool NeedsTechnique(const RatedPuzzle& rated, int slot) {
-    Ladder ladder = FixedLadder();
+std::optional<RatedPuzzle> RateBy(const Ladder& ladder, const PuzzleRecord& puzzle,
+                                  const std::stop_token& stop, const RatingWatcher& watcher) {
+    Solver solver(Grid::FromClues(puzzle.clues));
+    solver.SetStepWatcher([&](const Step& step) {
+        if (watcher) {
+            watcher(solver.ReachedLevel(), step);
+        }
+        return !stop.stop_requested();
+    });
+    const bool isSolved = RunToTheEnd(solver, ladder);
+    if (solver.IsStopped()) {
+        return std::nullopt;
+    }
+    return RatedPuzzle{puzzle, RatingOf(solver, isSolved), solver.HardestSlot(),
+                       solver.StepCount()};
+}
+
+bool NeedsTechnique(const RatedPuzzle& rated, int slot, Ladder ladder,
+                    const std::stop_token& stop) {
     std::erase_if(ladder, [&](const LadderStep& at) {
         return at.step->slot == slot || at.step->slot > rated.hardestSlot;
     });
     Solver solver(Grid::FromClues(rated.puzzle.clues));
-    return slot <= rated.hardestSlot && !RunToTheEnd(solver, ladder);
+    Heed(stop, solver);
+    return slot <= rated.hardestSlot && !RunToTheEnd(solver, ladder) && !solver.IsStopped();
 }
 
 bool IsGentler(const RatedPuzzle& a, const RatedPuzzle& b) {

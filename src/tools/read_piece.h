@@ -15,6 +15,14 @@ struct ReadPiece {
     std::int64_t line = 0;  // where it begins, from 1; in a binary file the record's number
 
     bool IsPuzzle() const { return error.empty(); }
+    // The givens alone.
+    Digits Clues() const {
+        Digits clues{};
+        for (int cell : grid.Givens()) {
+            clues[static_cast<std::size_t>(cell)] = static_cast<std::uint8_t>(grid.Digit(cell));
+        }
+        return clues;
+    }
 };
 
 }  // namespace vemo

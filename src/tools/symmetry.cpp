@@ -80,14 +80,7 @@ bool HasSymmetry(const Digits& clues, Symmetry symmetry) {
 }
 
 Symmetry SymmetryOf(const Digits& clues) {
-    using enum Symmetry;
-    for (Symmetry symmetry :
-         {QuarterTurn, HalfTurn, UprightMirror, FlatMirror, MainDiagonal, OtherDiagonal}) {
-        if (HasSymmetry(clues, symmetry)) {
-            return symmetry;
-        }
-    }
-    return None;
+    return MainSymmetry([&](Symmetry symmetry) { return HasSymmetry(clues, symmetry); });
 }
 
 }  // namespace vemo

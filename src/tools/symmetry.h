@@ -42,7 +42,20 @@ Digits Transposed(const Digits& digits);
 // Whether every orbit has clues in all of its cells or in none.
 bool HasSymmetry(const Digits& clues, Symmetry symmetry);
 
-// The symmetry of the clues' places: a quarter turn before the half turn that is part of it.
+// The one to name among those that hold: a quarter turn before the half turn that is part of it.
+template <typename Holds>
+Symmetry MainSymmetry(Holds holds) {
+    using enum Symmetry;
+    for (Symmetry symmetry :
+         {QuarterTurn, HalfTurn, UprightMirror, FlatMirror, MainDiagonal, OtherDiagonal}) {
+        if (holds(symmetry)) {
+            return symmetry;
+        }
+    }
+    return None;
+}
+
+// The symmetry of the clues' places.
 Symmetry SymmetryOf(const Digits& clues);
 
 }  // namespace vemo

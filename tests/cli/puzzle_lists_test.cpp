@@ -93,8 +93,8 @@ TEST_F(PuzzleLists, AFilterKeepsWhatAllItsOptionsLike) {
          [](const Digits& clues) {
              return SymmetryOf(clues) != Symmetry::None && ClueCount(clues) == 30;
          }},
-        {{"--digits=8"}, [](const Digits& clues) { return DifferentDigits(clues) == 8; }},
-        {{"--empty-boxes=1-9"}, [](const Digits& clues) { return EmptyBoxes(clues) > 0; }},
+        {{"--digits=8"}, [](const Digits& clues) { return FactsOf(clues).digits == 8; }},
+        {{"--empty-boxes=1-9"}, [](const Digits& clues) { return FactsOf(clues).emptyBoxes > 0; }},
         {{"--levels=2,hard"},
          [](const Digits& clues) {
              const int level = Rate({clues, {}, {}}).rating;
@@ -103,7 +103,7 @@ TEST_F(PuzzleLists, AFilterKeepsWhatAllItsOptionsLike) {
         {{"--needs=13", "--levels=insane"},
          [](const Digits& clues) {
              const RatedPuzzle rated = Rate({clues, {}, {}});
-             return rated.rating == 5 && NeedsTechnique(rated, 13);
+             return rated.rating == 5 && NeedsTechnique(rated, 13, FixedLadder());
          }},
     };
     for (const Case& at : cases) {

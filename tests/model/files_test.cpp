@@ -164,7 +164,8 @@ TEST_F(FilesTest, ReadingALevelPassesOverDamagedRecords) {
     }
     ASSERT_FALSE(disk.WriteAt(files.PuzzlePath(7), kPuzzleRecordSize, Bytes(1, 200)));
     ASSERT_FALSE(disk.WriteAt(files.PuzzlePath(7), 3 * kPuzzleRecordSize, Bytes(100, 1)));
-    EXPECT_EQ(files.ReadPuzzles(7), (std::vector{PuzzleWithBest({1, 0}), PuzzleWithBest({3, 0})}));
+    EXPECT_EQ(files.ReadPuzzles(7), (std::vector<NumberedPuzzle>{{1, PuzzleWithBest({1, 0})},
+                                                                 {3, PuzzleWithBest({3, 0})}}));
 }
 
 TEST_F(FilesTest, ShippedPuzzlesAreInstalledWhereTheyAreMissing) {

@@ -112,8 +112,8 @@ TEST(Generator, KeepsToWhatIsWished) {
     const Search run = Generate(settings, 2);
     EXPECT_EQ(run.counts.ending, Ending::Complete);
     for (const RatedPuzzle& rated : run.puzzles) {
-        EXPECT_TRUE(NeedsTechnique(rated, kSkyscraper));
-        EXPECT_FALSE(NeedsTechnique(rated, rated.hardestSlot + 1));
+        EXPECT_TRUE(NeedsTechnique(rated, kSkyscraper, FixedLadder()));
+        EXPECT_FALSE(NeedsTechnique(rated, rated.hardestSlot + 1, FixedLadder()));
     }
 }
 

@@ -19,9 +19,9 @@ bool BIFSolveSudoku(Solver& solver, int digit, int cell) {
         result = trial.Pass(ladder);
     }
     if (result == PassResult::DeadEnd) {
-        solver.Log("Current Bifurcation attempt failed due to empty cell");
+        solver.Log(solver.TextsOfTrials().emptyCell);
     } else if (result == PassResult::Nothing) {
-        solver.Log("Current Bifurcation attempt failed: more than one Bifurcation needed");
+        solver.Log(solver.TextsOfTrials().stalled);
     }
     solver.KeepLeftover(trial);
     return result == PassResult::Solved;
