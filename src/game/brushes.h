@@ -12,6 +12,8 @@
 namespace vemo {
 
 enum class MouseButton : std::uint8_t { Left, Right };
+// Where a button went up, seen from what it went down on.
+enum class Released : std::uint8_t { Inside, Outside };
 
 // An empty cell field of a link record.
 inline constexpr int kNoLinkCell = 65535;

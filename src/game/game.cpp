@@ -199,6 +199,10 @@ void Game::mnuSudokuValidate() {
     Handle(ValidateSudoku);
 }
 
+void Game::mnuSudokuCheck() {
+    collection_.mnuSudokuCheck();
+}
+
 void Game::mnuSudokuGenerator() {
     OpenGenerator(stage_);
 }
@@ -329,6 +333,7 @@ void Game::FormUnload(Form form) {
         WriteGeneratorOrder(stage_.settings, stage_.generator.Order());
         break;
     case Form::FormLog:
+    case Form::FormCollection:
         break;
     }
     Show();

@@ -2,6 +2,7 @@
 // here; each method hands on to the part of the game that knows it and then shows the screen anew.
 #pragma once
 
+#include "game/collection_commands.h"
 #include "game/entry.h"
 #include "game/menu_ids.h"
 #include "game/screen.h"
@@ -9,7 +10,6 @@
 
 namespace vemo {
 
-enum class Released : std::uint8_t { Inside, Outside };
 enum class WindowState : std::uint8_t { Shown, Minimized };
 
 class Game {
@@ -28,6 +28,8 @@ class Game {
     const SolveTech& TechniqueManager() const { return stage_.solveTech; }
     const GeneratorWindow& CurrentGenerator() const { return stage_.generator; }
     std::string WhyNotPlay() const { return vemo::WhyNotPlay(stage_); }
+    // The window "Check and Import" and its events.
+    CollectionCommands& Collection() { return collection_; }
 
     // The window.
     void FormLoad();
@@ -71,6 +73,7 @@ class Game {
     void mnuSudokuSave();
     void mnuSudokuMake();
     void mnuSudokuValidate();
+    void mnuSudokuCheck();
     void mnuSudokuGenerator();
     void mnuSudokuExit();
     void mnuLevelNr(int level);
@@ -137,6 +140,7 @@ class Game {
     Stage stage_;
     Screen screen_;
     HintWindow hintWindow_;
+    CollectionCommands collection_{stage_};
 };
 
 }  // namespace vemo

@@ -249,10 +249,7 @@ std::string WhyNotPlay(const Stage& stage) {
     if (!made->IsStored()) {
         return "This sudoku is not stored yet: press Store first.";
     }
-    if (stage.session.IsMaking()) {
-        return "A sudoku is being made in the main window: validate it or give it up first.";
-    }
-    return stage.session.IsBusy() ? "The main window is busy: stop that first." : "";
+    return WhyNoPuzzleCanBeLoaded(stage.session);
 }
 
 void PlayMadeSudoku(Stage& stage) {

@@ -50,7 +50,7 @@ constexpr MenuRow kRows[] = {
     {SudokuSave, kSudoku, "", "&Save", "Ctrl+S", Kind::Command, kGoesOn, "", Call<&Game::mnuSudokuSave>},
     {SudokuMake, kSudoku, "", "&Make", "", Kind::Command, kBegins, "", Call<&Game::mnuSudokuMake>},
     {SudokuValidate, kSudoku, "", "&Validate", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSudokuValidate>},
-    {SudokuCheck, kSudoku, "", "&Check and Import...", "", Kind::Command, kBegins, kNotYet, nullptr},
+    {SudokuCheck, kSudoku, "", "&Check and Import...", "", Kind::Command, kBegins, "", Call<&Game::mnuSudokuCheck>},
     {SudokuGenerator, kSudoku, "", "&Generator...", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSudokuGenerator>},
     {SudokuPrint, kSudoku, "", "&Print...", "Ctrl+P", Kind::Command, kBegins, kNotYet, nullptr},
     {SudokuExit, kSudoku, "", "E&xit", "Ctrl+Q", Kind::Command, kBegins, "", Call<&Game::mnuSudokuExit>},

@@ -181,6 +181,13 @@ void OpenByNumber(Stage& stage) {
     }
 }
 
+std::string WhyNoPuzzleCanBeLoaded(const Session& session) {
+    if (session.IsMaking()) {
+        return "A sudoku is being made in the main window: validate it or give it up first.";
+    }
+    return session.IsBusy() ? "The main window is busy: stop that first." : "";
+}
+
 bool LoadSudoku(Stage& stage, int level, int number) {
     const std::optional<PuzzleRecord> record = ReadWholePuzzle(stage, level, number);
     if (!record) {

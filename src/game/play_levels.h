@@ -20,6 +20,9 @@ void ChooseLevel(Stage& stage, int level);
 void NextPuzzle(Stage& stage);
 void OpenByNumber(Stage& stage);
 
+// Why the other windows cannot load a puzzle now, as a sentence; empty where they can.
+std::string WhyNoPuzzleCanBeLoaded(const Session& session);
+
 // Loads puzzle `number` of a level with its clues alone; the clock starts at 0:00. False where the
 // record is missing or damaged: the puzzle in play stays. A scan does not note it as the last one.
 bool LoadSudoku(Stage& stage, int level, int number);

@@ -16,7 +16,8 @@ Stage::Stage(const Platform& system, View& frontEnd)
       files(system.files, system.folders.LocalApplicationData() / kApplicationName),
       colors(BuiltInColors()),
       solveTech(techniques),
-      generator(files, settings) {}
+      generator(files, settings),
+      collection(files, techniques) {}
 
 void Speel(Stage& stage, Sound sound) {
     if (stage.options.sounds) {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "game/collection_window.h"
 #include "game/generator_window.h"
 #include "game/hint_window.h"
 #include "game/options.h"
@@ -49,6 +50,7 @@ struct Stage {
     HintWindow hintWindow;
     SolveTech solveTech;
     GeneratorWindow generator;
+    CollectionWindow collection;
 
     // Makes the screen anew and has it painted; set by the game. Called before every box and every
     // yield, so that the player never looks at an old state.

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "game/collection_commands.h"
 #include "game/play_levels.h"
 #include "model/levels.h"
 
@@ -109,7 +110,7 @@ bool MayQuit(Stage& stage) {
              "Autosolve or Scan function busy, cannot quit Vemo Sudoku now.");
         return false;
     }
-    if (RefuseQuitWhileSearching(stage)) {
+    if (RefuseQuitWhileSearching(stage) || RefuseQuitWhileCollecting(stage)) {
         return false;
     }
     if (!AskYesNo(stage, kTitle, "Do you really want to quit ?")) {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/files.h"
 
@@ -41,8 +42,14 @@ struct SaveQuestion {
     std::string kind;      // "Text files (*.txt)"
 };
 
+// Which files to open.
+struct OpenQuestion {
+    std::string title;
+    std::string kind;  // "Text files (*.txt)"
+};
+
 // The windows that stand beside the main window.
-enum class Form : std::uint8_t { FormHint, FormLog, SolveTech, FormGenerator };
+enum class Form : std::uint8_t { FormHint, FormLog, SolveTech, FormGenerator, FormCollection };
 // Whether a window takes the keyboard when it comes: where the player asked for it.
 enum class Keyboard : std::uint8_t { Stays, Follows };
 
@@ -55,6 +62,8 @@ class View {
     // Nothing where the player cancels.
     virtual std::optional<std::string> Ask(const Question& question) = 0;
     virtual std::optional<std::filesystem::path> AskSaveFile(const SaveQuestion& question) = 0;
+    // None where the player cancels.
+    virtual std::vector<std::filesystem::path> AskOpenFiles(const OpenQuestion& question) = 0;
 
     // Shows a window, or brings it to the front; waits for nothing. Whatever closes it later, the
     // game is asked by `FormQueryUnload` and hears of it by `FormUnload`.

@@ -17,6 +17,7 @@ class ViewWithoutWindow : public View {
     std::optional<std::filesystem::path> AskSaveFile(const SaveQuestion&) override {
         return std::nullopt;
     }
+    std::vector<std::filesystem::path> AskOpenFiles(const OpenQuestion&) override { return {}; }
     void OpenForm(Form, Keyboard) override {}
     void CloseForm(Form) override {}
     Bytes HintPicture() override { return {}; }

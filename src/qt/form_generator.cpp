@@ -12,6 +12,8 @@
 #include <QScrollBar>
 
 #include "qt/board_picture.h"
+#include "qt/form_controls.h"
+#include "qt/grid_screen.h"
 #include "qt/made_list.h"
 #include "qt/order_controls.h"
 #include "qt/screen_text.h"
@@ -33,46 +35,10 @@ constexpr int kLeastListCharacters = 56;
 constexpr QSize kLeastSize(420, 360);
 constexpr double kDeskShare = 0.9;  // of the desk's height that the window takes at most
 
-QLabel* MakeText(const QString& name, QWidget* parent) {
-    auto* label = new QLabel(parent);
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    return label;
-}
-
-QString TimeText(std::chrono::milliseconds passed) {
-    const auto seconds = passed.count() / 1000;
-    const auto two = [](qint64 number) { return u"%1"_s.arg(number, 2, 10, QLatin1Char('0')); };
-    return u"%1:%2:%3"_s.arg(seconds / 3600).arg(two(seconds / 60 % 60), two(seconds % 60));
-}
-
-// For those who hear the board instead of seeing it.
-QString RowsOf(const Digits& clues) {
-    QStringList rows;
-    for (int row = 0; row < 9; ++row) {
-        QString text = u"row %1:"_s.arg(QLatin1Char(static_cast<char>("ABCDEFGHJ"[row])));
-        for (int column = 0; column < 9; ++column) {
-            const int digit = clues[static_cast<std::size_t>(row * 9 + column)];
-            text += digit == 0 ? u" empty"_s : u" %1"_s.arg(digit);
-        }
-        rows << text;
-    }
-    return rows.join(u"; "_s);
-}
-
 QString NameOf(const MadeSudoku& made) {
     const QString level = ToQString(LevelName(made.rated.rating));
     return made.IsStored() ? u"%1, number %2"_s.arg(level).arg(made.number)
                            : u"%1, not stored"_s.arg(level);
-}
-
-Screen ScreenOf(const Digits& clues) {
-    Screen screen;
-    for (std::size_t cell = 0; cell < clues.size(); ++cell) {
-        screen.cells[cell] = {.digit = clues[cell], .isClue = clues[cell] != 0};
-    }
-    return screen;
 }
 
 }  // namespace

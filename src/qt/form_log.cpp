@@ -4,18 +4,15 @@
 #include <QAction>
 #include <QApplication>
 #include <QBoxLayout>
-#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QPlainTextEdit>
 #include <QPrinter>
-#include <QScrollBar>
 
 #include "qt/ask_printer.h"
 #include "qt/find_bar.h"
+#include "qt/growing_text.h"
 #include "qt/message_box.h"
 #include "qt/print_text.h"
-#include "qt/screen_text.h"
 #include "qt/text_panel.h"
 
 namespace vemo {
@@ -29,18 +26,13 @@ constexpr int kMargin = 8;
 constexpr int kDelay = 40;          // milliseconds
 constexpr double kPageMargin = 15;  // millimetres
 
-QPlainTextEdit* MakeText(QWidget* parent) {
-    auto* text = new QPlainTextEdit(parent);
+GrowingText* MakeText(QWidget* parent) {
+    auto* text = new GrowingText(parent);
     text->setObjectName(u"TextLog"_s);
     text->setAccessibleName(u"Solve log"_s);
     text->setPlaceholderText(
         u"The log is empty. Autosolve and Scan, both in the menu Solve of the main window, write "
         "each of their steps into it."_s);
-    text->setReadOnly(true);
-    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    text->setUndoRedoEnabled(false);
-    text->setTabChangesFocus(true);
-    text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     return text;
 }
 
@@ -62,7 +54,7 @@ FormLog::FormLog(Game& game, QWidget* parent) : FormWindow(game, Form::FormLog, 
     MakeEditMenu();
     delay_.setSingleShot(true);
     delay_.setInterval(kDelay);
-    connect(&delay_, &QTimer::timeout, this, [this] { AppendNew(); });
+    connect(&delay_, &QTimer::timeout, this, [this] { ShowText(); });
     resize(kSize);
     text_->setFocus();
 }
@@ -70,7 +62,7 @@ FormLog::FormLog(Game& game, QWidget* parent) : FormWindow(game, Form::FormLog, 
 void FormLog::ShowScreen() {
     const bool isBusy = CurrentGame().CurrentSession().IsBusy();
     if (!isBusy) {
-        AppendNew();
+        ShowText();
     } else if (!delay_.isActive()) {
         delay_.start();
     }
@@ -114,21 +106,8 @@ void FormLog::MakeEditMenu() {
         menu->addAction(u"&Find..."_s, QKeySequence(u"Ctrl+F"_s), this, [this] { find_->Open(); });
 }
 
-// Only what the log has grown by is put into the text box.
-void FormLog::AppendNew() {
-    const std::string& log = CurrentGame().SolveLogText();
-    if (log.size() == shown_) {
-        return;
-    }
-    QScrollBar& bar = *text_->verticalScrollBar();
-    const bool isAtEnd = bar.value() == bar.maximum();
-    QTextCursor end(text_->document());
-    end.movePosition(QTextCursor::End);
-    end.insertText(ToQString(std::string_view(log).substr(shown_)));
-    shown_ = log.size();
-    if (isAtEnd) {
-        bar.setValue(bar.maximum());
-    }
+void FormLog::ShowText() {
+    text_->ShowText(CurrentGame().SolveLogText());
 }
 
 void FormLog::Print() {

@@ -8,11 +8,11 @@
 
 class QAction;
 class QMenu;
-class QPlainTextEdit;
 
 namespace vemo {
 
 class FindBar;
+class GrowingText;
 
 class FormLog final : public FormWindow {
   public:
@@ -27,17 +27,16 @@ class FormLog final : public FormWindow {
   private:
     void MakeWindowMenu();
     void MakeEditMenu();
-    void AppendNew();
+    void ShowText();
     void Print();
 
-    QPlainTextEdit* text_;
+    GrowingText* text_;
     FindBar* find_;
     QAction* save_ = nullptr;
     QAction* print_ = nullptr;
     QAction* selectAll_ = nullptr;
     QAction* openFind_ = nullptr;
-    QTimer delay_;           // a scan writes thousands of lines a second: they are shown in bundles
-    std::size_t shown_ = 0;  // bytes of the log that the text box holds
+    QTimer delay_;  // a scan writes thousands of lines a second: they are shown in bundles
 };
 
 }  // namespace vemo

@@ -1,6 +1,7 @@
 // The windows beside the main window.
 #include "qt/forms.h"
 
+#include "qt/form_collection.h"
 #include "qt/form_generator.h"
 #include "qt/form_hint.h"
 #include "qt/form_log.h"
@@ -43,6 +44,9 @@ void Forms::Open(Form form, Keyboard keyboard, const BoardColors& colors) {
     case Form::FormGenerator:
         Made(generator_, game_, mainWindow_).Open(keyboard);
         break;
+    case Form::FormCollection:
+        Made(collection_, game_, mainWindow_).Open(keyboard);
+        break;
     }
     ShowScreen(colors);
 }
@@ -61,6 +65,9 @@ void Forms::Close(Form form) {
     case Form::FormGenerator:
         CloseOpen(generator_);
         break;
+    case Form::FormCollection:
+        CloseOpen(collection_);
+        break;
     }
 }
 
@@ -76,6 +83,9 @@ void Forms::ShowScreen(const BoardColors& colors) {
     }
     if (IsOpen(generator_)) {
         generator_->ShowScreen(colors);
+    }
+    if (IsOpen(collection_)) {
+        collection_->ShowScreen(colors);
     }
 }
 

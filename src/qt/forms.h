@@ -8,6 +8,7 @@ class QWidget;
 
 namespace vemo {
 
+class FormCollection;
 class FormGenerator;
 class FormHint;
 class FormLog;
@@ -32,6 +33,7 @@ class Forms {
     FormLog* log_ = nullptr;
     SolveTechWindow* solveTech_ = nullptr;
     FormGenerator* generator_ = nullptr;
+    FormCollection* collection_ = nullptr;
 };
 
 }  // namespace vemo

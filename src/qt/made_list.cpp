@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 
+#include "qt/row_table.h"
 #include "qt/screen_text.h"
 
 namespace vemo {
@@ -17,24 +18,12 @@ namespace {
 
 enum Column : int { kLevel, kNumber, kClues, kSteps, kSymmetry, kHardest, kColumns };
 
-// Each with the widest text that stands below it, as a rule.
-struct ColumnRow {
-    const char* caption;
-    const char* widest;
-};
-constexpr std::array<ColumnRow, kColumns> kColumnRows = {{{"Level", "Kamikaze"},
-                                                          {"Number", "not stored"},
-                                                          {"Clues", "00"},
-                                                          {"Steps", "000"},
-                                                          {"Symmetry", "Upright mirror"},
-                                                          {"Hardest technique", ""}}};
-constexpr int kPad = 16;
-
-QString HardestOf(const RatedPuzzle& rated) {
-    return rated.rating == kOutlaw
-               ? u"beyond all of them"_s
-               : ToQString(Slots()[static_cast<std::size_t>(rated.hardestSlot)].caption);
-}
+constexpr std::array<RowTableColumn, kColumns> kColumnRows = {{{"Level", "Kamikaze"},
+                                                               {"Number", "not stored"},
+                                                               {"Clues", "00"},
+                                                               {"Steps", "000"},
+                                                               {"Symmetry", "Upright mirror"},
+                                                               {"Hardest technique", ""}}};
 
 QVariant TextOf(const MadeSudoku& made, int column) {
     const RatedPuzzle& rated = made.rated;
@@ -51,7 +40,7 @@ QVariant TextOf(const MadeSudoku& made, int column) {
         return ToQString(
             Symmetries()[static_cast<std::size_t>(SymmetryOf(rated.puzzle.clues))].caption);
     default:
-        return HardestOf(rated);
+        return HardestText(rated.rating, rated.hardestSlot);
     }
 }
 
@@ -117,19 +106,10 @@ MadeList::MadeList(Game& game, QWidget* parent)
     setObjectName(u"ListMade"_s);
     setAccessibleName(u"Sudokus made"_s);
     setModel(model_);
-    setSelectionBehavior(SelectRows);
+    SetUpRows(*this);
     setSelectionMode(SingleSelection);
-    setEditTriggers(NoEditTriggers);
-    setTabKeyNavigation(false);
-    setShowGrid(false);
-    setWordWrap(false);
-    setHorizontalScrollMode(ScrollPerPixel);
-    setCornerButtonEnabled(false);
-    verticalHeader()->hide();
-    horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
-    horizontalHeader()->setStretchLastSection(true);
-    FitColumns();
+    FitColumns(*this, kColumnRows);
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) {
                 if (current.row() != game_.CurrentGenerator().Row()) {
@@ -154,19 +134,8 @@ void MadeList::ShowMade(const GeneratorWindow& window) {
 void MadeList::changeEvent(QEvent* event) {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        FitColumns();
+        FitColumns(*this, kColumnRows);
     }
-}
-
-void MadeList::FitColumns() {
-    const QFontMetrics metrics = fontMetrics();
-    for (int column = 0; column < kHardest; ++column) {
-        const ColumnRow& row = kColumnRows[static_cast<std::size_t>(column)];
-        const int width = std::max(metrics.horizontalAdvance(QLatin1String(row.caption)),
-                                   metrics.horizontalAdvance(QLatin1String(row.widest)));
-        setColumnWidth(column, width + kPad);
-    }
-    verticalHeader()->setDefaultSectionSize(metrics.height() * 3 / 2);
 }
 
 }  // namespace vemo

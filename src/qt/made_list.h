@@ -36,8 +36,6 @@ class MadeList final : public QTableView {
     void changeEvent(QEvent* event) override;
 
   private:
-    void FitColumns();
-
     Game& game_;
     MadeModel* model_;
 };

@@ -3,13 +3,11 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QEvent>
-#include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSpinBox>
 
+#include "qt/form_controls.h"
 #include "qt/screen_text.h"
 
 namespace vemo {
@@ -21,35 +19,6 @@ namespace {
 constexpr int kGap = 8;
 constexpr int kSeedCharacters = 12;  // of the line that are seen at least
 
-// Sets what differs, so that a cursor in the midst of a number stays there.
-template <typename Control, typename Value>
-void Put(Control& control, Value (Control::*shown)() const, void (Control::*show)(Value),
-         Value value) {
-    if ((control.*shown)() != value) {
-        const QSignalBlocker blocker(control);
-        (control.*show)(value);
-    }
-}
-
-void Check(QAbstractButton& button, bool isChecked) {
-    const QSignalBlocker blocker(button);
-    button.setChecked(isChecked);
-}
-
-QLabel* MakeLabel(const QString& text, QWidget* parent) {
-    auto* label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
-// A label stands in the middle of its row, however high its control is.
-template <typename Control>
-void AddRow(QFormLayout& form, const QString& text, Control* control) {
-    QLabel* label = MakeLabel(text, form.parentWidget());
-    label->setMinimumHeight(control->sizeHint().height());
-    form.addRow(label, control);
-}
-
 }  // namespace
 
 OrderControls::OrderControls(Game& game, QWidget* parent) : QWidget(parent), game_(game) {
@@ -57,11 +26,7 @@ OrderControls::OrderControls(Game& game, QWidget* parent) : QWidget(parent), gam
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(kGap);
     column->addWidget(MakeLevels());
-    auto* form = new QFormLayout;
-    form->setHorizontalSpacing(2 * kGap);
-    form->setVerticalSpacing(kGap);
-    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    QFormLayout* form = MakeForm();
     column->addLayout(form);
     AddKinds(*form);
     AddClues(*form);
@@ -86,7 +51,7 @@ QWidget* OrderControls::MakeLevels() {
     for (int level = 1; level <= kLevels; ++level) {
         const QString name = ToQString(LevelName(level));
         const auto at = static_cast<std::size_t>(level - 1);
-        wanted_[at] = MakeSpin(u"SpinWanted%1"_s.arg(level), name + u" sudokus"_s, 0, kMostWanted);
+        wanted_[at] = AddSpin(u"SpinWanted%1"_s.arg(level), name + u" sudokus"_s, 0, kMostWanted);
         wanted_[at]->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
         kept_[at] = MakeLabel(QString(), levels);
         kept_[at]->setObjectName(u"LabelKept%1"_s.arg(level));
@@ -99,19 +64,14 @@ QWidget* OrderControls::MakeLevels() {
 }
 
 void OrderControls::AddKinds(QFormLayout& form) {
-    symmetry_ = MakeCombo(u"ComboSymmetry"_s, u"Symmetry"_s);
+    symmetry_ = MakeCombo(u"ComboSymmetry"_s, u"Symmetry"_s, this);
     for (const SymmetryRow& row : Symmetries()) {
         symmetry_->addItem(ToQString(row.caption));
     }
     Report(symmetry_, &QComboBox::currentIndexChanged);
     AddRow(form, u"Symmetry"_s, symmetry_);
-    technique_ = MakeCombo(u"ComboTechnique"_s, u"Technique that must be needed"_s);
-    technique_->addItem(u"Any"_s, kNoSlot);
-    for (int slot = kFirstTechniqueSlot; slot < kSlots; ++slot) {
-        const Slot& row = Slots()[static_cast<std::size_t>(slot)];
-        technique_->addItem(ToQString(row.caption), slot);
-        technique_->setItemData(technique_->count() - 1, ToQString(row.tooltip), Qt::ToolTipRole);
-    }
+    technique_ = MakeCombo(u"ComboTechnique"_s, u"Technique that must be needed"_s, this);
+    AddTechniques(*technique_);
     technique_->setToolTip(u"A technique without which the sudoku cannot be solved"_s);
     Report(technique_, &QComboBox::currentIndexChanged);
     AddRow(form, u"Must need"_s, technique_);
@@ -125,8 +85,8 @@ void OrderControls::AddClues(QFormLayout& form) {
     fromTo_->setAccessibleName(u"From a fewest to a most number of clues"_s);
     inputs_ << suiting_;
     Report(fromTo_, &QRadioButton::toggled);
-    fewest_ = MakeSpin(u"SpinFewest"_s, u"Fewest clues"_s, kFewestClues, kCells);
-    most_ = MakeSpin(u"SpinMost"_s, u"Most clues"_s, kFewestClues, kCells);
+    fewest_ = AddSpin(u"SpinFewest"_s, u"Fewest clues"_s, kFewestClues, kCells);
+    most_ = AddSpin(u"SpinMost"_s, u"Most clues"_s, kFewestClues, kCells);
     auto* range = new QHBoxLayout;
     range->setSpacing(kGap);
     range->addWidget(fromTo_);
@@ -153,11 +113,10 @@ void OrderControls::AddEnds(QFormLayout& form) {
     tries_->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
     tries_->setLocale(QLocale(QLocale::English));
     tries_->setGroupSeparatorShown(true);
-    tries_->setFocusPolicy(Qt::StrongFocus);
-    tries_->installEventFilter(this);
+    KeepFromWheel(*tries_);
     Report(tries_, &QDoubleSpinBox::valueChanged);
     AddRow(form, u"Most tries"_s, tries_);
-    minutes_ = MakeSpin(u"SpinMinutes"_s, u"Most minutes"_s, 0, kMostMinutes);
+    minutes_ = AddSpin(u"SpinMinutes"_s, u"Most minutes"_s, 0, kMostMinutes);
     minutes_->setSpecialValueText(u"as long as it takes"_s);
     minutes_->setToolTip(u"The search ends after so many minutes, whatever is missing"_s);
     AddRow(form, u"Most minutes"_s, minutes_);
@@ -171,26 +130,10 @@ void OrderControls::AddEnds(QFormLayout& form) {
     AddRow(form, u"Seed"_s, seed_);
 }
 
-QSpinBox* OrderControls::MakeSpin(const QString& name, const QString& spoken, int least, int most) {
-    auto* spin = new QSpinBox(this);
-    spin->setObjectName(name);
-    spin->setAccessibleName(spoken);
-    spin->setRange(least, most);
-    spin->setFocusPolicy(Qt::StrongFocus);
-    spin->installEventFilter(this);
+QSpinBox* OrderControls::AddSpin(const QString& name, const QString& spoken, int least, int most) {
+    QSpinBox* spin = MakeSpin(name, spoken, least, most, this);
     Report(spin, &QSpinBox::valueChanged);
     return spin;
-}
-
-QComboBox* OrderControls::MakeCombo(const QString& name, const QString& spoken) {
-    auto* combo = new QComboBox(this);
-    combo->setObjectName(name);
-    combo->setAccessibleName(spoken);
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMinimumContentsLength(kSeedCharacters);
-    combo->setFocusPolicy(Qt::StrongFocus);
-    combo->installEventFilter(this);
-    return combo;
 }
 
 template <typename Control, typename Signal>
@@ -272,16 +215,6 @@ GeneratorOrder OrderControls::Entered() const {
 void OrderControls::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     wanted_.front()->selectAll();
-}
-
-// Who turns the wheel over the controls wants to see the others.
-bool OrderControls::eventFilter(QObject* watched, QEvent* event) {
-    const auto* control = qobject_cast<QWidget*>(watched);
-    if (event->type() == QEvent::Wheel && control != nullptr && !control->hasFocus()) {
-        event->ignore();
-        return true;
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 }  // namespace vemo

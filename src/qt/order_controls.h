@@ -28,15 +28,13 @@ class OrderControls final : public QWidget {
 
   protected:
     void showEvent(QShowEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     QWidget* MakeLevels();
     void AddKinds(QFormLayout& form);
     void AddClues(QFormLayout& form);
     void AddEnds(QFormLayout& form);
-    QSpinBox* MakeSpin(const QString& name, const QString& spoken, int least, int most);
-    QComboBox* MakeCombo(const QString& name, const QString& spoken);
+    QSpinBox* AddSpin(const QString& name, const QString& spoken, int least, int most);
     template <typename Control, typename Signal>
     void Report(Control* control, Signal changed);
 

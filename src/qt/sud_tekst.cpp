@@ -2,9 +2,7 @@
 #include "qt/sud_tekst.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <utility>
-#include <vector>
 
 #include <QClipboard>
 #include <QDropEvent>
@@ -17,6 +15,7 @@
 #include <QUrl>
 
 #include "game/dropped_text.h"
+#include "qt/dropped_files.h"
 #include "qt/message_box.h"
 #include "qt/screen_text.h"
 
@@ -36,18 +35,6 @@ bool IsUsable(const QMimeData& source) {
 
 QString TextOf(const QMimeData& source) {
     return source.text().left(kMostCharacters);
-}
-
-bool AreFiles(const QList<QUrl>& urls) {
-    return !urls.empty() && std::ranges::all_of(urls, &QUrl::isLocalFile);
-}
-
-std::vector<std::filesystem::path> PathsOf(const QList<QUrl>& urls) {
-    std::vector<std::filesystem::path> paths;
-    for (const QUrl& url : urls) {
-        paths.emplace_back(url.toLocalFile().toStdU16String());
-    }
-    return paths;
 }
 
 void RefuseAddress(const QUrl& url, QWidget* parent) {

@@ -57,6 +57,21 @@ std::optional<std::filesystem::path> WindowView::AskSaveFile(const SaveQuestion&
     return dialog.selectedFiles().constFirst().toStdU16String();
 }
 
+std::vector<std::filesystem::path> WindowView::AskOpenFiles(const OpenQuestion& question) {
+    ShowWindow();
+    QFileDialog dialog(Asking(), ToQString(question.title),
+                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                       ToQString(question.kind));
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    std::vector<std::filesystem::path> paths;
+    if (dialog.exec() == QDialog::Accepted) {
+        for (const QString& file : dialog.selectedFiles()) {
+            paths.emplace_back(file.toStdU16String());
+        }
+    }
+    return paths;
+}
+
 void WindowView::OpenForm(Form form, Keyboard keyboard) {
     window_->OpenForm(form, keyboard);
 }

@@ -22,6 +22,7 @@ class WindowView final : public View {
     Answer ShowBox(const Box& box) override;
     std::optional<std::string> Ask(const Question& question) override;
     std::optional<std::filesystem::path> AskSaveFile(const SaveQuestion& question) override;
+    std::vector<std::filesystem::path> AskOpenFiles(const OpenQuestion& question) override;
     void OpenForm(Form form, Keyboard keyboard) override;
     void CloseForm(Form form) override;
     Bytes HintPicture() override;

@@ -59,6 +59,9 @@ class ScriptedView final : public View {
         EXPECT_EQ(question.fileName, expectedFileName);
         return saveAs;
     }
+    std::vector<std::filesystem::path> AskOpenFiles(const OpenQuestion&) override {
+        return openFiles;
+    }
     void OpenForm(Form form, Keyboard) override { opened.push_back(form); }
     void CloseForm(Form form) override { closed.push_back(form); }
     Bytes HintPicture() override { return picture; }
@@ -89,6 +92,7 @@ class ScriptedView final : public View {
     bool isClosed = false;
     std::string expectedFileName;  // of the next question where to save
     std::optional<std::filesystem::path> saveAs;
+    std::vector<std::filesystem::path> openFiles;
     std::vector<Form> opened;
     std::vector<Form> closed;
     Bytes picture;

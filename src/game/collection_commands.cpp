@@ -1,0 +1,204 @@
+// The events of the collection window.
+#include "game/collection_commands.h"
+
+#include <utility>
+
+#include "game/collection_texts.h"
+#include "game/play_levels.h"
+
+namespace vemo {
+namespace {
+
+constexpr const char* kPuzzleFiles =
+    "Sudoku files (*.txt *.sdk *.sdx *.sdm *.ss *.opensudoku *.csv *.tsv *.sud);;All files (*)";
+
+}  // namespace
+
+void CollectionCommands::mnuSudokuCheck() {
+    stage_.view.OpenForm(Form::FormCollection, Keyboard::Follows);
+}
+
+void CollectionCommands::Read(std::vector<std::filesystem::path> paths,
+                              const std::optional<RecordLayout>& layout) {
+    playsNext_ = false;
+    stage_.collection.OpenFiles(std::move(paths), layout);
+    stage_.show();
+}
+
+void CollectionCommands::CommandOpenFile() {
+    if (!Window().IsBusy()) {
+        Read(stage_.view.AskOpenFiles({"Open sudokus", kPuzzleFiles}), std::nullopt);
+    }
+}
+
+void CollectionCommands::Drop(const std::vector<std::filesystem::path>& paths) {
+    Read(paths, std::nullopt);
+}
+
+void CollectionCommands::CommandOpenLevel(int level) {
+    stage_.collection.OpenLevel(level);
+    stage_.show();
+}
+
+void CollectionCommands::CommandReadBy(const std::optional<RecordLayout>& layout) {
+    if (Window().MayReadByLayout()) {
+        stage_.collection.ReadBy(layout);
+        stage_.show();
+    }
+}
+
+void CollectionCommands::Show(const TableOrder& order) {
+    stage_.collection.Show(order);
+    stage_.show();
+}
+
+void CollectionCommands::Select(std::vector<ShownRange> ranges,
+                                std::optional<std::size_t> current) {
+    stage_.collection.Select(std::move(ranges), current);
+    stage_.show();
+}
+
+void CollectionCommands::CommandStart(CollectionJob job) {
+    stage_.collection.Start(job);
+    stage_.show();
+}
+
+void CollectionCommands::CommandRemoveTwins(Sameness sameness) {
+    stage_.collection.RemoveTwins(sameness);
+    stage_.show();
+}
+
+void CollectionCommands::CommandPutBack() {
+    stage_.collection.PutBack();
+    stage_.show();
+}
+
+void CollectionCommands::CommandExport(ExportFormat format) {
+    const ExportFormatRow& row = vemo::RowOf(format);
+    if (Window().IsBusy() || Window().ChosenCount() == 0) {
+        return;
+    }
+    const std::string ending(row.ending);
+    const auto path = stage_.view.AskSaveFile(
+        {"Export sudokus", "Sudokus" + ending, std::string(row.caption) + " (*" + ending + ")"});
+    if (path) {
+        stage_.collection.Export(format, *path);
+    }
+    stage_.show();
+}
+
+void CollectionCommands::CommandCancel() {
+    playsNext_ = false;
+    stage_.collection.Cancel();
+    stage_.show();
+}
+
+void CollectionCommands::Tick() {
+    stage_.collection.Tick();
+    stage_.show();
+    if (!Window().IsBusy()) {
+        TellEnded();
+    }
+}
+
+void CollectionCommands::TellEnded() {
+    const auto ended = stage_.collection.TakeEnded();
+    if (!ended) {
+        return;
+    }
+    const bool plays = std::exchange(playsNext_, false);
+    if (ended->discarded > 0) {
+        Tell(stage_, "Invalid Sudoku", kDiscardedText);
+    }
+    if (ended->report) {
+        TellReport(*ended->report, ended->row);
+    } else if (plays && Window().PlaceOfCurrent()) {
+        Play();
+    }
+}
+
+void CollectionCommands::TellReport(const BruteForceResult& result, std::uint32_t row) {
+    if (result.IsUnique()) {
+        stage_.collection.ShowSolution(result.solution);
+    }
+    const SolveReport report = ReportOf(result);
+    Tell(stage_, std::string(report.title), std::string(report.text));
+    if (result.IsUnique()) {
+        WriteBruteForceSolution(row, result.solution);
+    }
+}
+
+// Only a level's puzzles have a file where it belongs.
+void CollectionCommands::WriteBruteForceSolution(std::uint32_t row, const Digits& solution) {
+    const int level = Window().Level();
+    const int number = static_cast<int>(row) + 1;
+    auto record = level == 0 ? std::nullopt : stage_.files.ReadPuzzle(level, number);
+    if (!record || record->solution == solution) {
+        return;
+    }
+    record->solution = solution;
+    if (const auto error = stage_.files.WritePuzzle(level, number, *record)) {
+        TellFileError(stage_, *error);
+    }
+}
+
+void CollectionCommands::CommandSolveMouseUp(MouseButton button, Released released) {
+    if (released == Released::Inside) {
+        CommandStart(button == MouseButton::Left ? CollectionJob::Solve : CollectionJob::Report);
+    }
+}
+
+std::string CollectionCommands::WhyNotPlay() const {
+    const CollectionWindow& window = Window();
+    if (window.Current() == CollectionWindow::kNoRow) {
+        return "Select a sudoku in the list first.";
+    }
+    if (const std::string why = WhyNoPuzzleCanBeLoaded(stage_.session); !why.empty()) {
+        return why;
+    }
+    const Solutions solutions = window.Table().Row(window.Current()).HasSolutions();
+    if (solutions == Solutions::None || solutions == Solutions::Several) {
+        return "This sudoku has no unique solution.";
+    }
+    return window.PlaceOfCurrent() || !window.IsBusy()
+               ? ""
+               : "To be played it is imported first: press Cancel, or wait for the end.";
+}
+
+void CollectionCommands::CommandPlay() {
+    if (!WhyNotPlay().empty()) {
+        return;
+    }
+    if (Window().PlaceOfCurrent()) {
+        Play();
+        return;
+    }
+    playsNext_ = true;
+    stage_.collection.ImportCurrent();
+    stage_.show();
+}
+
+void CollectionCommands::Play() {
+    if (!WhyNotPlay().empty()) {
+        return;
+    }
+    const StoredPlace place = *Window().PlaceOfCurrent();
+    if (!LoadSudoku(stage_, place.level, place.number)) {
+        Tell(stage_, "Can't open sudoku",
+             "Sudoku number " + std::to_string(place.number) + " is no longer in " +
+                 Utf8(stage_.files.PuzzlePath(place.level)),
+             BoxIcon::Warning);
+    }
+    stage_.show();
+}
+
+bool RefuseQuitWhileCollecting(Stage& stage) {
+    if (!stage.collection.IsBusy()) {
+        return false;
+    }
+    stage.collection.RefuseQuit();
+    stage.view.OpenForm(Form::FormCollection, Keyboard::Follows);
+    return true;
+}
+
+}  // namespace vemo
