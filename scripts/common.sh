@@ -9,6 +9,9 @@ if [[ ! -w ${HOME:-} && -z ${CCACHE_DIR:-} ]]; then
     export CCACHE_DIR=$root/build/ccache
 fi
 
+# A precompiled header is found again in the cache by what is in it.
+export CCACHE_SLOPPINESS=pch_defines,time_macros
+
 Fail() { # MESSAGE
     echo "$program: $1" >&2
     exit 1
