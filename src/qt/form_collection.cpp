@@ -71,6 +71,13 @@ QString OpenText(const CollectionWindow& window) {
     return text;
 }
 
+// Takes what room there is, and gives the others no reason to scroll.
+class ModestSplitter final : public QSplitter {
+  public:
+    using QSplitter::QSplitter;
+    QSize sizeHint() const override { return minimumSizeHint(); }
+};
+
 bool IsOfFiles(const QDropEvent& event) {
     return AreFiles(event.mimeData()->urls());
 }
@@ -179,7 +186,8 @@ QWidget* FormCollection::MakeBody() {
 
 // The table above the log, to be shared out by the player.
 QSplitter* FormCollection::MakeRows() {
-    auto* rows = new QSplitter(Qt::Vertical, this);
+    auto* rows = new ModestSplitter(Qt::Vertical, this);
+    rows->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     rows->setChildrenCollapsible(false);
     rows->setAccessibleName(u"Sudokus and report"_s);
     table_ = new CollectionTable(CurrentGame(), rows);
@@ -196,8 +204,6 @@ QSplitter* FormCollection::MakeRows() {
     rows->addWidget(panel);
     rows->handle(1)->setAccessibleName(u"Border of table and report"_s);
     rows->setSizes({kTableShare, kLogShare});
-    // As high as there is room, and no reason for the others to scroll.
-    rows->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     return rows;
 }
 
