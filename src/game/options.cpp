@@ -59,20 +59,20 @@ void ForEachPalette(ColorsType& colors, Visit visit) {
 }  // namespace
 
 // The brushes of a palette differ in lightness by about 4 of 100 each, so that they can be told
-// apart without colour, and by at least 11 (CIEDE2000) for each kind of red-green blindness.
+// apart without colour, and by at least 10 (CIEDE2000) with each kind of colour blindness.
 Colors BuiltInColors() {
     constexpr std::uint32_t kInk = 0x17181D;
     constexpr std::uint32_t kChalk = 0xF3F2EE;
     Colors colors;
-    colors.light.brush = {0xE6BD71, 0xAFE5D8, 0x889FED, 0xC3768E, 0xD2C8FF,
-                          0xD4EEB9, 0xA09A48, 0x997D62, 0xA6AEB6, 0xBFB89F};
+    colors.light.brush = {0xE6BD71, 0xAEE4D1, 0x889FED, 0xC3768E, 0xD2C8FF,
+                          0xE5FFA5, 0xA09A48, 0x997D62, 0xA6AEB6, 0xBFB89F};
     colors.light.brushText.fill(kInk);
     colors.light.hint = {0xFFF0BF, 0xB3261E, 0x1E7F55, 0x6A3FA0,
                          0x1E7F55, 0x5E5D68, 0xF5F3EC, 0x1C5BB8};
     colors.dark.brush = {0xC7B052, 0x05A9BF, 0x184D9D, 0xA63357, 0x6F688D,
                          0x9CA99A, 0x024E3B, 0x612400, 0x7D858C, 0xB38460};
     colors.dark.brushText = {kInk, kInk, kChalk, kChalk, kChalk, kInk, kChalk, kChalk, kInk, kInk};
-    colors.dark.hint = {0x4E431C, 0xFF8076, 0x49C992, 0xC9A6FF,
+    colors.dark.hint = {0x4E431C, 0xFF958C, 0x49C992, 0xC9A6FF,
                         0x49C992, 0xB1B0BA, 0x2D2E35, 0x8FBAFF};
     return colors;
 }

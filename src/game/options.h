@@ -46,11 +46,18 @@ struct ColorSet {
     std::array<std::uint32_t, kHintColors> hint;        // HColor, by HintColor
 
     std::uint32_t Hint(HintColor color) const { return hint[static_cast<std::size_t>(color)]; }
+    bool operator==(const ColorSet&) const = default;
 };
+
+enum class Tone : std::uint8_t { Light, Dark };
 
 struct Colors {
     ColorSet light;
     ColorSet dark;
+
+    const ColorSet& Of(Tone tone) const { return tone == Tone::Dark ? dark : light; }
+    ColorSet& Of(Tone tone) { return tone == Tone::Dark ? dark : light; }
+    bool operator==(const Colors&) const = default;
 };
 Colors BuiltInColors();
 

@@ -106,8 +106,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 void MainWindow::FollowAppearance() {
     const Tone system = desktopTone_.value_or(paletteTone_);
     const Tone tone = ToneOf(game_.CurrentOptions().appearance, system);
-    const Colors& chosen = game_.CurrentColors();
-    colors_ = {ThemeOf(tone), tone == Tone::Dark ? chosen.dark : chosen.light};
+    colors_ = {ThemeOf(tone), game_.CurrentColors().Of(tone)};
     if (!IsPaletteOurs()) {
         QApplication::setPalette(PaletteOf(colors_.theme));
     }

@@ -1,28 +1,25 @@
 // The colours of the window, light and dark.
 #include "qt/theme.h"
 
-#include <algorithm>
-#include <cmath>
+#include "game/color_check.h"
 
 namespace vemo {
 namespace {
-
-constexpr QRgb kBlack = 0x17181D;
-constexpr QRgb kWhite = 0xFFFFFF;
 
 // How much of the text stays in a disabled text.
 constexpr double kDisabledShare = 0.55;
 
 Theme LightTheme() {
+    const BoardInks inks = InksOf(Tone::Light);
     return {.window = QRgb(0xF4F3EF),
             .panel = QRgb(0xFBFAF7),
-            .board = QRgb(0xFFFFFF),
+            .board = QRgb(inks.board),
             .thickLine = QRgb(0x2B2C34),
             .thinLine = QRgb(0xCFCCC4),
-            .clue = QRgb(0x17181D),
-            .own = QRgb(0x1C5BB8),
-            .mark = QRgb(0x5E5D68),
-            .sameDigit = QRgb(0xE4EDFB),
+            .clue = QRgb(inks.clue),
+            .own = QRgb(inks.own),
+            .mark = QRgb(inks.mark),
+            .sameDigit = QRgb(inks.sameDigit),
             .text = QRgb(0x22232A),
             .softText = QRgb(0x63626C),
             .line = QRgb(0xDAD7CF),
@@ -33,15 +30,16 @@ Theme LightTheme() {
 }
 
 Theme DarkTheme() {
+    const BoardInks inks = InksOf(Tone::Dark);
     return {.window = QRgb(0x1B1C20),
             .panel = QRgb(0x222328),
-            .board = QRgb(0x26272D),
+            .board = QRgb(inks.board),
             .thickLine = QRgb(0xE4E2DC),
             .thinLine = QRgb(0x45464E),
-            .clue = QRgb(0xF3F2EE),
-            .own = QRgb(0x8FBAFF),
-            .mark = QRgb(0xB1B0BA),
-            .sameDigit = QRgb(0x2E3A50),
+            .clue = QRgb(inks.clue),
+            .own = QRgb(inks.own),
+            .mark = QRgb(inks.mark),
+            .sameDigit = QRgb(inks.sameDigit),
             .text = QRgb(0xECEBE6),
             .softText = QRgb(0xA5A4AE),
             .line = QRgb(0x3A3B43),
@@ -51,12 +49,8 @@ Theme DarkTheme() {
             .wrong = QRgb(0xFF8076)};
 }
 
-double Luminance(const QColor& color) {
-    const auto linear = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
+Rgb Plain(const QColor& color) {
+    return color.rgb() & RGB_MASK;
 }
 
 QColor At(const std::array<std::uint32_t, kBrushColors>& colors, int index) {
@@ -129,15 +123,8 @@ QColor BoardColors::Hint(HintColor color) const {
     return QRgb(chosen.Hint(color));
 }
 
-bool BoardColors::operator==(const BoardColors& other) const {
-    return theme == other.theme && chosen.brush == other.chosen.brush &&
-           chosen.brushText == other.chosen.brushText && chosen.hint == other.chosen.hint;
-}
-
 QColor ReadableOn(const QColor& fill) {
-    const QColor black(kBlack);
-    const QColor white(kWhite);
-    return Contrast(fill, black) >= Contrast(fill, white) ? black : white;
+    return QRgb(ReadableOn(Plain(fill)));
 }
 
 QColor MadeReadable(const QColor& color, const QColor& ground) {
@@ -158,9 +145,7 @@ QColor Mixed(const QColor& base, const QColor& top, double share) {
 }
 
 double Contrast(const QColor& first, const QColor& second) {
-    const double a = Luminance(first) + 0.05;
-    const double b = Luminance(second) + 0.05;
-    return std::max(a, b) / std::min(a, b);
+    return Contrast(Plain(first), Plain(second));
 }
 
 }  // namespace vemo

@@ -1,16 +1,13 @@
 // The colours of the window, light and dark.
 #pragma once
 
-#include <cstdint>
-
 #include <QColor>
 #include <QPalette>
 
+#include "game/color_sight.h"
 #include "game/options.h"
 
 namespace vemo {
-
-enum class Tone : std::uint8_t { Light, Dark };
 
 struct Theme {
     QColor window;
@@ -51,17 +48,16 @@ struct BoardColors {
     QColor Brush(int brush) const;
     QColor BrushText(int brush) const;
     QColor Hint(HintColor color) const;
-    bool operator==(const BoardColors& other) const;
+    bool operator==(const BoardColors& other) const = default;
 };
 
-// Black or white, whichever is easier to read on `fill`.
+// As ReadableOn of plain colours.
 QColor ReadableOn(const QColor& fill);
 // `color`, moved towards black or white as far as it takes to be read on `ground`.
 QColor MadeReadable(const QColor& color, const QColor& ground);
 // `share` of `top` over `base`: 0 is the base alone, 1 the top alone.
 QColor Mixed(const QColor& base, const QColor& top, double share);
-// The contrast of two colours, 1 to 21, as accessibility rules count it; text needs kReadable.
-inline constexpr double kReadable = 4.5;
+// As Contrast of plain colours.
 double Contrast(const QColor& first, const QColor& second);
 
 }  // namespace vemo

@@ -153,11 +153,14 @@ TEST_F(StartupTest, MalformedSettingsReadAsTheirDefaults) {
     settings.Save("Options", "Appearance", "7");
     settings.Save("Sudoku", "Level", "12");
     settings.Save("Colors", "HColor0", "-5");
+    settings.Save("Colors", "BColor3", "#FFF0BF");
+    settings.Save("Colors", "FColor109", "16777216");
+    settings.Save("Colors", "HColor101", "99999999999999999999");
     StartFirst();
     EXPECT_TRUE(game->CurrentOptions().wells);
     EXPECT_TRUE(game->CurrentOptions().timeOn);
     EXPECT_EQ(game->CurrentOptions().appearance, Appearance::AsTheSystem);
-    EXPECT_EQ(game->CurrentColors().light.hint, BuiltInColors().light.hint);
+    EXPECT_EQ(game->CurrentColors(), BuiltInColors());
     EXPECT_EQ(Seen().status[0], "Level: Medium");
 }
 
