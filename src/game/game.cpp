@@ -317,6 +317,9 @@ void Game::mnuHelpWeb() {
 }
 
 bool Game::FormQueryUnload(Form form) {
+    if (form == Form::FormColors) {
+        AskToKeepColors(stage_);
+    }
     return form != Form::FormGenerator || MayCloseGenerator(stage_);
 }
 
@@ -331,6 +334,9 @@ void Game::FormUnload(Form form) {
         break;
     case Form::FormGenerator:
         WriteGeneratorOrder(stage_.settings, stage_.generator.Order());
+        break;
+    case Form::FormColors:
+        KeepColors(stage_);
         break;
     case Form::FormLog:
     case Form::FormCollection:

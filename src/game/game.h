@@ -22,11 +22,12 @@ class Game {
     const Colors& CurrentColors() const { return stage_.colors; }
     const Session& CurrentSession() const { return stage_.session; }
     // The other windows: the hint window, the solve log's text, which only ever grows, the
-    // technique manager, which is off while the game is busy, and the generator.
+    // technique manager, which is off while the game is busy, the generator, and the colors.
     const HintWindow& CurrentHintWindow() const { return hintWindow_; }
     const std::string& SolveLogText() const { return stage_.log.Text(); }
     const SolveTech& TechniqueManager() const { return stage_.solveTech; }
     const GeneratorWindow& CurrentGenerator() const { return stage_.generator; }
+    const ColorWindow& CurrentColorWindow() const { return stage_.colorWindow; }
     std::string WhyNotPlay() const { return vemo::WhyNotPlay(stage_); }
     // The window "Check and Import" and its events.
     CollectionCommands& Collection() { return collection_; }
@@ -99,6 +100,7 @@ class Game {
     void mnuOptionsSounds();
     void mnuOptionsWells();
     void mnuOptionsSmallWindow();
+    void mnuOptionsColors();
     void mnuAppearance(Appearance appearance);
     void mnuHelpWeb();
 
@@ -126,6 +128,18 @@ class Game {
     void CommandPlay();    // and a double-click on a row
     void GeneratorTick();  // a few times a second while it searches
 
+    // The colors.
+    void ColorTone(Tone tone);
+    void ColorSelect(int row);
+    void ColorChange(ColorPart part, Rgb color);
+    void ColorType(ColorPart part, const std::string& text);  // at every change of the text
+    void ColorEndTyping();                                    // Enter, or the text box is left
+    void ColorForgetTyped();
+    void CommandResetColor();
+    void CommandResetColors();
+    void CommandKeepColors();
+    void CommandCancelColors();
+
   private:
     // Runs one event unless a long function bars it, then shows the screen anew.
     template <typename Event>
@@ -135,6 +149,9 @@ class Game {
     // Runs one event of the generator.
     template <typename Event>
     void HandleGenerator(Event event);
+    // Runs one event of the colors.
+    template <typename Event>
+    void HandleColors(Event event);
     void Show();
 
     Stage stage_;

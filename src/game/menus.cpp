@@ -85,7 +85,7 @@ constexpr MenuRow kRows[] = {
     {OptionsSounds, kOptions, "", "&Sounds", "", Kind::Check, kGoesOn, "", Call<&Game::mnuOptionsSounds>},
     {OptionsWells, kOptions, "", "&Wells", "", Kind::Check, kGoesOn, "", Call<&Game::mnuOptionsWells>},
     {OptionsSmallWindow, kOptions, "", "S&mall Hint Window", "", Kind::Check, kGoesOn, "", Call<&Game::mnuOptionsSmallWindow>},
-    {OptionsColors, kOptions, "", "&Hint Colors...", "", Kind::Command, kBegins, kNotYet, nullptr},
+    {OptionsColors, kOptions, "", "&Hint Colors...", "", Kind::Command, kBegins, "", Call<&Game::mnuOptionsColors>},
     {AppearanceSystem, kOptions, kAppearance, "As the &System", "", Kind::Radio, kGoesOn, "", ChooseAppearanceEntry<Appearance::AsTheSystem>},
     {AppearanceLight, kOptions, kAppearance, "&Light", "", Kind::Radio, kGoesOn, "", ChooseAppearanceEntry<Appearance::Light>},
     {AppearanceDark, kOptions, kAppearance, "&Dark", "", Kind::Radio, kGoesOn, "", ChooseAppearanceEntry<Appearance::Dark>},

@@ -16,6 +16,7 @@ Stage::Stage(const Platform& system, View& frontEnd)
       files(system.files, system.folders.LocalApplicationData() / kApplicationName),
       colors(BuiltInColors()),
       solveTech(techniques),
+      colorWindow(colors),
       generator(files, settings),
       collection(files, techniques) {}
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "game/collection_window.h"
+#include "game/color_window.h"
 #include "game/generator_window.h"
 #include "game/hint_window.h"
 #include "game/options.h"
@@ -49,6 +50,7 @@ struct Stage {
     SolveLog log;
     HintWindow hintWindow;
     SolveTech solveTech;
+    ColorWindow colorWindow;
     GeneratorWindow generator;
     CollectionWindow collection;
 

@@ -84,6 +84,7 @@ bool StartUp(Stage& stage) {
     stage.files.InstallShippedPuzzles(programFolder);
     stage.options = HaalOpties(stage.settings);
     stage.colors = HaalKleuren(stage.settings);
+    stage.colorWindow.Follow();
     stage.techniques = ReadTechniqueSettings(stage.settings);
     stage.generator.ReadSettings();
     InitSound(stage, programFolder);
@@ -128,7 +129,11 @@ bool MayQuit(Stage& stage) {
     WriteTechniqueSettings(stage.settings, stage.techniques);
     SchrijfOpties(stage.settings, stage.options);
     WriteGeneratorOrder(stage.settings, stage.generator.Order());
-    return MayQuitGenerator(stage);
+    if (!MayQuitGenerator(stage)) {
+        return false;
+    }
+    KeepColors(stage);
+    return true;
 }
 
 }  // namespace vemo

@@ -49,7 +49,14 @@ struct OpenQuestion {
 };
 
 // The windows that stand beside the main window.
-enum class Form : std::uint8_t { FormHint, FormLog, SolveTech, FormGenerator, FormCollection };
+enum class Form : std::uint8_t {
+    FormHint,
+    FormLog,
+    SolveTech,
+    FormGenerator,
+    FormCollection,
+    FormColors,
+};
 // Whether a window takes the keyboard when it comes: where the player asked for it.
 enum class Keyboard : std::uint8_t { Stays, Follows };
 

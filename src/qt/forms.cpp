@@ -2,6 +2,7 @@
 #include "qt/forms.h"
 
 #include "qt/form_collection.h"
+#include "qt/form_colors.h"
 #include "qt/form_generator.h"
 #include "qt/form_hint.h"
 #include "qt/form_log.h"
@@ -47,6 +48,9 @@ void Forms::Open(Form form, Keyboard keyboard, const BoardColors& colors) {
     case Form::FormCollection:
         Made(collection_, game_, mainWindow_).Open(keyboard);
         break;
+    case Form::FormColors:
+        Made(formColors_, game_, mainWindow_).Open(keyboard);
+        break;
     }
     ShowScreen(colors);
 }
@@ -68,6 +72,9 @@ void Forms::Close(Form form) {
     case Form::FormCollection:
         CloseOpen(collection_);
         break;
+    case Form::FormColors:
+        CloseOpen(formColors_);
+        break;
     }
 }
 
@@ -86,6 +93,9 @@ void Forms::ShowScreen(const BoardColors& colors) {
     }
     if (IsOpen(collection_)) {
         collection_->ShowScreen(colors);
+    }
+    if (IsOpen(formColors_)) {
+        formColors_->ShowScreen(colors);
     }
 }
 

@@ -9,6 +9,7 @@ class QWidget;
 namespace vemo {
 
 class FormCollection;
+class FormColors;
 class FormGenerator;
 class FormHint;
 class FormLog;
@@ -34,6 +35,7 @@ class Forms {
     SolveTechWindow* solveTech_ = nullptr;
     FormGenerator* generator_ = nullptr;
     FormCollection* collection_ = nullptr;
+    FormColors* formColors_ = nullptr;
 };
 
 }  // namespace vemo
