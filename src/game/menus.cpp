@@ -22,7 +22,7 @@ constexpr std::string_view kSolve = "Sol&ve";
 constexpr std::string_view kOptions = "&Options";
 constexpr std::string_view kHelp = "&Help";
 constexpr std::string_view kErase = "&Erase Time";
-constexpr std::string_view kAppearance = "&Appearance";
+constexpr std::string_view kAppearance = "A&ppearance";
 
 constexpr bool kBegins = true;
 constexpr bool kGoesOn = false;

@@ -32,7 +32,7 @@ constexpr int kBoardSide = 216;
 // Of the list that are seen beside the order: at first, and at least.
 constexpr int kListCharacters = 92;
 constexpr int kLeastListCharacters = 56;
-constexpr QSize kLeastSize(420, 360);
+constexpr QSize kLeastSize(480, 360);
 constexpr double kDeskShare = 0.9;  // of the desk's height that the window takes at most
 
 QString NameOf(const MadeSudoku& made) {

@@ -22,6 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize kSize(600, 600);
+constexpr QSize kLeastSize(320, 240);
 constexpr int kMargin = 8;
 constexpr int kDelay = 40;          // milliseconds
 constexpr double kPageMargin = 15;  // millimetres
@@ -55,6 +56,7 @@ FormLog::FormLog(Game& game, QWidget* parent) : FormWindow(game, Form::FormLog, 
     delay_.setSingleShot(true);
     delay_.setInterval(kDelay);
     connect(&delay_, &QTimer::timeout, this, [this] { ShowText(); });
+    setMinimumSize(kLeastSize);
     resize(kSize);
     text_->setFocus();
 }

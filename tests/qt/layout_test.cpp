@@ -7,16 +7,12 @@
 
 #include "qt/hint_panel.h"
 #include "qt/reading_box.h"
+#include "qt/window_checks.h"
 #include "qt/window_fixture.h"
 
 using namespace Qt::StringLiterals;
 
 namespace vemo::test {
-
-QString NameOf(const QWidget* widget) {
-    const QString name = widget->objectName();
-    return name.isEmpty() ? QString::fromLatin1(widget->metaObject()->className()) : name;
-}
 
 class LayoutTest final : public QObject {
     Q_OBJECT
@@ -126,55 +122,6 @@ class LayoutTest final : public QObject {
         const auto& text = static_cast<ReadingBox&>(fixture.Find<QPlainTextEdit>("TextHint"));
         QVERIFY(text.height() >= text.HeightOfLines(4));
         QCOMPARE(Overlaps(panel).join(u'\n'), QString());
-    }
-
-  private:
-    // Siblings that share a pixel, and children that leave their parent, at every depth. The level
-    // cards lie over the board on purpose; a text box arranges its own parts.
-    static QStringList Overlaps(QWidget& parent) {
-        QStringList found;
-        QList<QWidget*> shown;
-        for (QWidget* child : parent.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-            if (!child->isVisible() || child->isWindow() ||
-                child->objectName() == u"LevelCards"_s) {
-                continue;
-            }
-            if (!parent.rect().contains(child->geometry())) {
-                found << NameOf(child) + u" leaves "_s + NameOf(&parent);
-            }
-            for (QWidget* other : shown) {
-                if (other->geometry().intersects(child->geometry())) {
-                    found << NameOf(child) + u" overlaps "_s + NameOf(other);
-                }
-            }
-            shown << child;
-            if (qobject_cast<QPlainTextEdit*>(child) == nullptr) {
-                found << Overlaps(*child);
-            }
-        }
-        return found;
-    }
-
-    static QStringList CutTexts(QWidget& parent) {
-        QStringList found;
-        for (QLabel* label : parent.findChildren<QLabel*>()) {
-            const bool fits = label->wordWrap()
-                                  ? label->heightForWidth(label->width()) <= label->height()
-                                  : label->sizeHint().width() <= label->width() &&
-                                        label->fontMetrics().height() <= label->height();
-            if (label->isVisible() && !fits) {
-                found << NameOf(label) + u": "_s + label->text();
-            }
-        }
-        for (QAbstractButton* button : parent.findChildren<QAbstractButton*>()) {
-            const QFontMetrics metrics = button->fontMetrics();
-            const int width = metrics.horizontalAdvance(QString(button->text()).remove(u'&'));
-            if (button->isVisible() &&
-                (width + 4 > button->width() || metrics.height() > button->height())) {
-                found << NameOf(button) + u": "_s + button->text();
-            }
-        }
-        return found;
     }
 };
 
