@@ -74,7 +74,8 @@ FormColors::FormColors(Game& game, QWidget* parent) : FormWindow(game, Form::For
     setMinimumSize(kLeastSize.expandedTo({WidthOfOne() + bar, 0}));
     const int wanted = kBoard + editor_->sizeHint().height() + foot->sizeHint().height() + 6 * kPad;
     const int most = static_cast<int>(kDeskShare * screen()->availableGeometry().height());
-    resize(WidthOfTwo() + kBoard - kLeastBoard, std::min(wanted, most));
+    const int width = wanted <= most ? WidthOfTwo() : WidthOfThree();
+    resize(width + kBoard - kLeastBoard, std::min(wanted, most));
     list_->setFocus();
 }
 

@@ -116,7 +116,7 @@ QColor BoardColors::Brush(int brush) const {
 }
 
 QColor BoardColors::BrushText(int brush) const {
-    return At(chosen.brushText, brush);
+    return MadeReadable(At(chosen.brushText, brush), Brush(brush));
 }
 
 QColor BoardColors::Hint(HintColor color) const {

@@ -46,6 +46,7 @@ struct BoardColors {
     ColorSet chosen;
 
     QColor Brush(int brush) const;
+    // Readable on it, as far as any colour is.
     QColor BrushText(int brush) const;
     QColor Hint(HintColor color) const;
     bool operator==(const BoardColors& other) const = default;
