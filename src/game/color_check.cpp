@@ -1,10 +1,7 @@
 // What there is to say of each colour.
 #include "game/color_check.h"
 
-#include <algorithm>
 #include <array>
-#include <cmath>
-#include <cstdio>
 
 namespace vemo {
 namespace {
@@ -110,9 +107,8 @@ Weakest WeakestOnGrounds(const ColorSet& set, Tone tone, int row) {
 
 // Rounded down: a figure never seems to reach what it misses.
 std::string Figure(double contrast) {
-    std::array<char, 16> text{};
-    std::snprintf(text.data(), text.size(), "%.1f", std::floor(contrast * 10) / 10);
-    return text.data();
+    const auto tenths = static_cast<int>(contrast * 10);
+    return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10);
 }
 
 std::string ToOne(double contrast, double needed) {
@@ -140,23 +136,22 @@ void AddDigits(ColorReport& report, const Weakest& weakest, Paint paint) {
 
 void AddInk(ColorReport& report, const Weakest& weakest) {
     const std::string figures = ToOne(weakest.contrast, kReadable);
-    report.figure = "Digits of this color: " + figures;
+    const std::string ground = weakest.ground.name;
+    report.figure = "Digits of this color on " + ground + ": " + figures;
     if (weakest.contrast < kReadable) {
         report.warnings.push_back({"hard to read", "Digits of this color are hard to read on " +
-                                                       std::string(weakest.ground.name) + ": " +
-                                                       figures + Mended(weakest)});
+                                                       ground + ": " + figures + Mended(weakest)});
     }
 }
 
 void AddShape(ColorReport& report, const Weakest& weakest) {
     const std::string figures = ToOne(weakest.contrast, kVisible);
+    const std::string where = "on " + std::string(weakest.ground.name) + ": " + figures;
     if (report.figure.empty()) {
-        report.figure = "This color on the board: " + figures;
+        report.figure = "This color " + where;
     }
     if (weakest.contrast < kVisible) {
-        report.warnings.push_back(
-            {"hard to see",
-             "This color is hard to see on " + std::string(weakest.ground.name) + ": " + figures});
+        report.warnings.push_back({"hard to see", "This color is hard to see " + where});
     }
 }
 
@@ -229,6 +224,11 @@ std::string ColorUse(int row) {
 
 Rgb ColorAt(const ColorSet& set, int row) {
     return IsBrush(row) ? set.brush[static_cast<std::size_t>(row)] : set.Hint(HintColorAt(row));
+}
+
+Rgb& ColorAt(ColorSet& set, int row) {
+    return IsBrush(row) ? set.brush[static_cast<std::size_t>(row)]
+                        : set.hint[static_cast<std::size_t>(HintColorAt(row))];
 }
 
 ColorReport ReportOn(const ColorSet& set, Tone tone, int row) {

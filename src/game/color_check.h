@@ -38,6 +38,7 @@ std::string ColorUse(int row);
 
 // The colour of a row itself.
 Rgb ColorAt(const ColorSet& set, int row);
+Rgb& ColorAt(ColorSet& set, int row);
 
 struct ColorWarning {
     std::string brief;  // "hard to read"

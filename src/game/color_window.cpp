@@ -17,13 +17,9 @@ std::string ErrorOf(const std::string& text) {
 }
 
 void CopyRow(const ColorSet& from, int row, ColorSet& to) {
+    ColorAt(to, row) = ColorAt(from, row);
     if (IsBrush(row)) {
-        const auto brush = static_cast<std::size_t>(row);
-        to.brush[brush] = from.brush[brush];
-        to.brushText[brush] = from.brushText[brush];
-    } else {
-        const auto hint = static_cast<std::size_t>(HintColorAt(row));
-        to.hint[hint] = from.hint[hint];
+        to.brushText[static_cast<std::size_t>(row)] = from.brushText[static_cast<std::size_t>(row)];
     }
 }
 
@@ -58,11 +54,8 @@ Rgb ColorWindow::Color(ColorPart part) const {
 
 Rgb& ColorWindow::Place(ColorPart part) {
     ColorSet& set = colors_.Of(tone_);
-    const auto row = static_cast<std::size_t>(row_);
-    if (part == ColorPart::Text) {
-        return set.brushText[row];
-    }
-    return IsBrush(row_) ? set.brush[row] : set.hint[row - kBrushColors];
+    return part == ColorPart::Text ? set.brushText[static_cast<std::size_t>(row_)]
+                                   : ColorAt(set, row_);
 }
 
 std::string ColorWindow::Text(ColorPart part) const {
