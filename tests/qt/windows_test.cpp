@@ -29,6 +29,7 @@ constexpr WindowRow kWindows[] = {
     {"SolveTech", RunCommand<CommandId::SolveManager>},
     {"FormGenerator", RunCommand<CommandId::SudokuGenerator>},
     {"FormColors", RunCommand<CommandId::OptionsColors>},
+    {"FormCollection", RunCommand<CommandId::SudokuCheck>},
 };
 
 class WindowsTest final : public QObject {
