@@ -26,7 +26,7 @@ std::string Grouped(std::size_t number) {
 }
 
 std::string PlaceText(const StoredPlace& place) {
-    return std::string(LevelName(place.level)) + ", number " + std::to_string(place.number);
+    return std::string(LevelName(place.level)) + " " + std::to_string(place.number);
 }
 
 std::string ReadText(const ReadReport& report) {

@@ -15,7 +15,7 @@ inline constexpr const char* kUnsolvedText = " unsolved and rated as Outlaw!";
 // "1,000,000".
 std::string Grouped(std::size_t number);
 
-// "Easy, number 12".
+// "Easy 12".
 std::string PlaceText(const StoredPlace& place);
 
 // What was understood of a file: "list.txt: lines of 81; sudokus: 49,990; rejected: 10".

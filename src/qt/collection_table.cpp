@@ -28,7 +28,7 @@ constexpr std::array<RowTableColumn, 8> kColumnRows = {{{"Number", "1,000,000"},
                                                         {"Hardest technique", "Short Nice Loops"},
                                                         {"Steps", "0000"},
                                                         {"Best time", "00:00"},
-                                                        {"State", ""}}};
+                                                        {"State", "more than one solution"}}};
 constexpr int kColumns = static_cast<int>(kColumnRows.size());
 
 QString TextOf(const CollectionWindow& window, std::uint32_t number, TableColumn column) {
@@ -188,6 +188,11 @@ void CollectionTable::ReportSelection() {
     game_.Collection().Select(
         std::move(ranges),
         current.isValid() ? std::optional(static_cast<std::size_t>(current.row())) : std::nullopt);
+}
+
+void CollectionTable::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    FitLastColumn(*this, kColumnRows.back());
 }
 
 void CollectionTable::changeEvent(QEvent* event) {

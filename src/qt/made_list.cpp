@@ -18,12 +18,13 @@ namespace {
 
 enum Column : int { kLevel, kNumber, kClues, kSteps, kSymmetry, kHardest, kColumns };
 
-constexpr std::array<RowTableColumn, kColumns> kColumnRows = {{{"Level", "Kamikaze"},
-                                                               {"Number", "not stored"},
-                                                               {"Clues", "00"},
-                                                               {"Steps", "000"},
-                                                               {"Symmetry", "Upright mirror"},
-                                                               {"Hardest technique", ""}}};
+constexpr std::array<RowTableColumn, kColumns> kColumnRows = {
+    {{"Level", "Kamikaze"},
+     {"Number", "not stored"},
+     {"Clues", "00"},
+     {"Steps", "000"},
+     {"Symmetry", "Upright mirror"},
+     {"Hardest technique", "Extended Aligned Triple"}}};
 
 QVariant TextOf(const MadeSudoku& made, int column) {
     const RatedPuzzle& rated = made.rated;
@@ -129,6 +130,11 @@ void MadeList::ShowMade(const GeneratorWindow& window) {
     if (isAtEnd && model_->rowCount() != before) {
         scrollToBottom();
     }
+}
+
+void MadeList::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    FitLastColumn(*this, kColumnRows.back());
 }
 
 void MadeList::changeEvent(QEvent* event) {

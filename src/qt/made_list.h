@@ -34,6 +34,7 @@ class MadeList final : public QTableView {
 
   protected:
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     Game& game_;

@@ -17,6 +17,15 @@ namespace {
 
 constexpr int kPad = 16;
 
+int WidthOf(const QTableView& table, const RowTableColumn& column) {
+    const QFontMetrics metrics = table.fontMetrics();
+    const int mark = table.horizontalHeader()->isSortIndicatorShown() ? metrics.height() : 0;
+    const auto width = [&metrics](const char* text) {
+        return metrics.horizontalAdvance(QLatin1String(text));
+    };
+    return std::max(width(column.caption) + mark, width(column.widest)) + kPad;
+}
+
 }  // namespace
 
 void SetUpRows(QTableView& table) {
@@ -29,21 +38,25 @@ void SetUpRows(QTableView& table) {
     table.setCornerButtonEnabled(false);
     table.verticalHeader()->hide();
     table.horizontalHeader()->setHighlightSections(false);
-    table.horizontalHeader()->setStretchLastSection(true);
 }
 
 void FitColumns(QTableView& table, std::span<const RowTableColumn> columns) {
-    const QFontMetrics metrics = table.fontMetrics();
-    const int mark = table.horizontalHeader()->isSortIndicatorShown() ? metrics.height() : 0;
-    const auto width = [&metrics](const char* text) {
-        return metrics.horizontalAdvance(QLatin1String(text));
-    };
     for (std::size_t column = 0; column + 1 < columns.size(); ++column) {
-        const RowTableColumn& row = columns[column];
-        table.setColumnWidth(static_cast<int>(column),
-                             std::max(width(row.caption) + mark, width(row.widest)) + kPad);
+        table.setColumnWidth(static_cast<int>(column), WidthOf(table, columns[column]));
     }
-    table.verticalHeader()->setDefaultSectionSize(metrics.height() * 3 / 2);
+    FitLastColumn(table, columns.back());
+    table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() * 3 / 2);
+}
+
+void FitLastColumn(QTableView& table, const RowTableColumn& last) {
+    QHeaderView& header = *table.horizontalHeader();
+    const int section = header.count() - 1;
+    const int room = header.viewport()->width() - header.sectionPosition(section);
+    const int needed = WidthOf(table, last);
+    header.setStretchLastSection(room >= needed);
+    if (room < needed) {
+        header.resizeSection(section, needed);
+    }
 }
 
 QString HardestText(int level, int slot) {

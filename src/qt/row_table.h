@@ -14,8 +14,10 @@ struct RowTableColumn {
 
 // Rows are selected whole, and nothing is edited.
 void SetUpRows(QTableView& table);
-// As the font is now; the last column takes the room that the others leave.
+// As the font is now.
 void FitColumns(QTableView& table, std::span<const RowTableColumn> columns);
+// The last column takes the room that the others leave, but no less than its texts need.
+void FitLastColumn(QTableView& table, const RowTableColumn& last);
 
 // The hardest technique of a rated sudoku, a slot's; none can say what an Outlaw needs.
 QString HardestText(int level, int slot);
