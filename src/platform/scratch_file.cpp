@@ -40,7 +40,7 @@ std::optional<FileError> ScratchFile::Open() {
     std::error_code error;
     folder_ = std::filesystem::temp_directory_path(error);
     if (error) {
-        return FileError{folder_, "there is no folder for temporary files: " + error.message()};
+        return FileError{"The folder for temporary files", "cannot be found: " + error.message()};
     }
     std::random_device random;
     errno = 0;
