@@ -2,29 +2,11 @@
 #include "cli/level_counts.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "cli/options.h"
 #include "tools/generator.h"
 
 namespace vemo {
-namespace {
-
-bool IsSameWord(std::string_view a, std::string_view b) {
-    return std::ranges::equal(
-        a, b, [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
-}
-
-}  // namespace
-
-int LevelNamed(std::string_view word) {
-    for (int level = 1; level <= kLevels; ++level) {
-        if (IsSameWord(word, LevelName(level)) || word == std::to_string(level)) {
-            return level;
-        }
-    }
-    return 0;
-}
 
 ReadLevelCounts ParseLevelCounts(std::string_view list) {
     ReadLevelCounts read;

@@ -14,9 +14,6 @@ using LevelCounts = std::array<int, kLevels + 1>;  // by level; at 0 nothing
 inline constexpr std::string_view kLevelCountsNotes =
     "LIST names levels, each with a number of puzzles: Easy:100,Outlaw:5 or 1:100,9:5.\n";
 
-// The level of this name, in any letters, or number; 0 where there is none.
-int LevelNamed(std::string_view word);
-
 struct ReadLevelCounts {
     LevelCounts counts{};
     std::string error;  // names the offending word

@@ -84,16 +84,24 @@ std::optional<PuzzleRecord> RecordFiles::ReadPuzzle(int level, int number) {
     return UnpackPuzzle(std::span<const std::uint8_t, kPuzzleRecordSize>(*bytes));
 }
 
-std::vector<PuzzleRecord> RecordFiles::ReadRecords(int level) {
-    const std::size_t length = static_cast<std::size_t>(PuzzleCount(level)) * kPuzzleRecordSize;
-    const Bytes content = files_.ReadAt(PuzzlePath(level), 0, length).value_or(Bytes());
-    std::vector<PuzzleRecord> records;
-    std::span<const std::uint8_t> rest(content);
-    while (rest.size() >= kPuzzleRecordSize) {
-        records.push_back(UnpackPuzzle(rest.first<kPuzzleRecordSize>()));
-        rest = rest.subspan(kPuzzleRecordSize);
+std::vector<PuzzleRecord> RecordFiles::ReadRun(int level, int first, int last) {
+    std::vector<PuzzleRecord> puzzles;
+    if (first < 1 || last < first) {
+        return puzzles;
     }
-    return records;
+    const std::size_t length = static_cast<std::size_t>(last - first + 1) * kPuzzleRecordSize;
+    const Bytes content =
+        files_.ReadAt(PuzzlePath(level), OffsetOf(first, kPuzzleRecordSize), length)
+            .value_or(Bytes());
+    for (std::span<const std::uint8_t> rest(content); rest.size() >= kPuzzleRecordSize;
+         rest = rest.subspan(kPuzzleRecordSize)) {
+        puzzles.push_back(UnpackPuzzle(rest.first<kPuzzleRecordSize>()));
+    }
+    return puzzles;
+}
+
+std::vector<PuzzleRecord> RecordFiles::ReadRecords(int level) {
+    return ReadRun(level, 1, PuzzleCount(level));
 }
 
 std::vector<NumberedPuzzle> RecordFiles::ReadPuzzles(int level) {

@@ -44,6 +44,9 @@ class RecordFiles {
 
     // Nothing where the file has no such record or cannot be read.
     std::optional<PuzzleRecord> ReadPuzzle(int level, int number);
+    // The records `first` to `last`, in one reading of the file: as they are, damaged or not. Fewer
+    // where the file ends before `last` or cannot be read.
+    std::vector<PuzzleRecord> ReadRun(int level, int first, int last);
     // All records of the level, damaged ones too, in one reading of the file.
     std::vector<PuzzleRecord> ReadRecords(int level);
     // Those of them that are whole.

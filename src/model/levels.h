@@ -1,6 +1,7 @@
 // The nine levels.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -21,6 +22,20 @@ constexpr bool IsLevel(long level) {
 }
 constexpr std::string_view LevelName(int level) {
     return kLevelNames[static_cast<std::size_t>(level - 1)];
+}
+
+// The level of this name, in any letters, or of this number; 0 where there is none.
+constexpr int LevelNamed(std::string_view word) {
+    const auto small = [](char letter) {
+        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    };
+    for (int level = 1; level <= kLevels; ++level) {
+        const bool isNumber = word.size() == 1 && word.front() == '0' + level;
+        if (isNumber || std::ranges::equal(word, LevelName(level), {}, small, small)) {
+            return level;
+        }
+    }
+    return 0;
 }
 
 }  // namespace vemo
