@@ -34,6 +34,7 @@ openbox             without a window manager no window becomes active
 xdotool             the real clicks
 x11-utils           asks whether the window manager runs
 imagemagick         pictures of windows
+poppler-utils       reads printed pages back
 parallel            a list spread over two jobs
 '
 

@@ -231,7 +231,7 @@ bool MayScan(const Stage& stage) {
     const Session& session = stage.session;
     const int level = TargetLevel(session);
     return level != 0 && !session.IsMaking() && !session.IsBrushOrLinkMode() &&
-           !IsSimpleLevel(stage, level);
+           !IsSimpleLevel(stage.options, level);
 }
 
 void AutoSolve(Stage& stage) {

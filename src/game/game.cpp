@@ -25,6 +25,7 @@ Game::Game(const Platform& platform, View& view) : stage_(platform, view) {
 }
 
 void Game::Show() {
+    stage_.print.Follow(stage_);
     screen_ = MakeScreen(stage_);
     hintWindow_ = MakeHintWindow(stage_);
     stage_.view.Refresh();
@@ -207,6 +208,10 @@ void Game::mnuSudokuGenerator() {
     OpenGenerator(stage_);
 }
 
+void Game::mnuSudokuPrint() {
+    Handle(OpenPrint);
+}
+
 void Game::mnuSudokuExit() {
     if (FormQueryUnload()) {
         stage_.view.Close();
@@ -338,6 +343,9 @@ void Game::FormUnload(Form form) {
     case Form::FormColors:
         KeepColors(stage_);
         break;
+    case Form::FormPrint:
+        stage_.print.End();
+        break;
     case Form::FormLog:
     case Form::FormCollection:
         break;
@@ -412,6 +420,29 @@ void Game::CommandPlay() {
 void Game::GeneratorTick() {
     TickGenerator(stage_);
     Show();
+}
+
+void Game::PrintChange(const PrintOrder& order) {
+    stage_.print.Change(stage_, order);
+    Show();
+}
+
+void Game::PrintSudokus(std::vector<PrintedSudoku> sudokus, const std::string& name) {
+    PrintSelection(stage_, std::move(sudokus), name);
+    Show();
+}
+
+void Game::ChoosePaper(Paper paper) {
+    stage_.print.ChoosePaper(stage_, paper);
+    Show();
+}
+
+std::optional<std::filesystem::path> Game::AskPdfFile(const std::string& name) {
+    return vemo::AskPdfFile(stage_, name);
+}
+
+bool Game::StorePdf(const std::filesystem::path& path, std::span<const std::uint8_t> bytes) {
+    return vemo::StorePdf(stage_, path, bytes);
 }
 
 }  // namespace vemo

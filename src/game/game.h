@@ -22,12 +22,14 @@ class Game {
     const Colors& CurrentColors() const { return stage_.colors; }
     const Session& CurrentSession() const { return stage_.session; }
     // The other windows: the hint window, the solve log's text, which only ever grows, the
-    // technique manager, which is off while the game is busy, the generator, and the colors.
+    // technique manager, which is off while the game is busy, the generator, the colors, and what
+    // is printed.
     const HintWindow& CurrentHintWindow() const { return hintWindow_; }
     const std::string& SolveLogText() const { return stage_.log.Text(); }
     const SolveTech& TechniqueManager() const { return stage_.solveTech; }
     const GeneratorWindow& CurrentGenerator() const { return stage_.generator; }
     const ColorWindow& CurrentColorWindow() const { return stage_.colorWindow; }
+    const PrintWindow& CurrentPrint() const { return stage_.print; }
     std::string WhyNotPlay() const { return vemo::WhyNotPlay(stage_); }
     // The window "Check and Import" and its events.
     CollectionCommands& Collection() { return collection_; }
@@ -76,6 +78,7 @@ class Game {
     void mnuSudokuValidate();
     void mnuSudokuCheck();
     void mnuSudokuGenerator();
+    void mnuSudokuPrint();
     void mnuSudokuExit();
     void mnuLevelNr(int level);
     void mnuSolveRestart();
@@ -139,6 +142,17 @@ class Game {
     void CommandResetColors();
     void CommandKeepColors();
     void CommandCancelColors();
+
+    // Printing. Any of the controls for the order; what another window has selected, to be opened
+    // in the window "Print"; where to save pages; and a finished file of them, which answers
+    // whether it could be put there.
+    void PrintChange(const PrintOrder& order);
+    void PrintSudokus(std::vector<PrintedSudoku> sudokus, const std::string& name);
+    std::optional<std::filesystem::path> AskPdfFile(const std::string& name);
+    bool StorePdf(const std::filesystem::path& path, std::span<const std::uint8_t> bytes);
+    // Of all that is printed, in the window "Print" or in another's preview.
+    Paper CurrentPaper() const { return ReadPageStyle(stage_.settings).paper; }
+    void ChoosePaper(Paper paper);
 
   private:
     // Runs one event unless a long function bars it, then shows the screen anew.

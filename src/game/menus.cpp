@@ -52,7 +52,7 @@ constexpr MenuRow kRows[] = {
     {SudokuValidate, kSudoku, "", "&Validate", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSudokuValidate>},
     {SudokuCheck, kSudoku, "", "&Check and Import...", "", Kind::Command, kBegins, "", Call<&Game::mnuSudokuCheck>},
     {SudokuGenerator, kSudoku, "", "&Generator...", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSudokuGenerator>},
-    {SudokuPrint, kSudoku, "", "&Print...", "Ctrl+P", Kind::Command, kBegins, kNotYet, nullptr},
+    {SudokuPrint, kSudoku, "", "&Print...", "Ctrl+P", Kind::Command, kBegins, "", Call<&Game::mnuSudokuPrint>},
     {SudokuExit, kSudoku, "", "E&xit", "Ctrl+Q", Kind::Command, kBegins, "", Call<&Game::mnuSudokuExit>},
     {Level1, kLevel, "", "&Easy", "", Kind::Radio, kGoesOn, "", ChooseLevelEntry<1>},
     {Level2, kLevel, "", "&Medium", "", Kind::Radio, kGoesOn, "", ChooseLevelEntry<2>},

@@ -32,11 +32,11 @@ void FlipOption(Stage& stage, bool Options::*option) {
 }
 
 bool IsSimpleMode(const Stage& stage) {
-    return IsSimpleLevel(stage, stage.session.level);
+    return IsSimpleLevel(stage.options, stage.session.level);
 }
 
-bool IsSimpleLevel(const Stage& stage, int level) {
-    return stage.options.pencilmarksOff && level >= 1 && level <= kLastSimpleLevel;
+bool IsSimpleLevel(const Options& options, int level) {
+    return options.pencilmarksOff && level >= 1 && level <= kLastSimpleLevel;
 }
 
 std::string HelpText() {

@@ -9,6 +9,7 @@
 #include "game/generator_window.h"
 #include "game/hint_window.h"
 #include "game/options.h"
+#include "game/print_window.h"
 #include "game/session.h"
 #include "game/solve_log.h"
 #include "game/solve_tech.h"
@@ -53,6 +54,7 @@ struct Stage {
     ColorWindow colorWindow;
     GeneratorWindow generator;
     CollectionWindow collection;
+    PrintWindow print;
 
     // Makes the screen anew and has it painted; set by the game. Called before every box and every
     // yield, so that the player never looks at an old state.
@@ -80,7 +82,7 @@ void FlipOption(Stage& stage, bool Options::*option);
 
 // On levels 1..3 with "Pencilmarks off in first 3 levels": the simple display and simple hints.
 bool IsSimpleMode(const Stage& stage);
-bool IsSimpleLevel(const Stage& stage, int level);
+bool IsSimpleLevel(const Options& options, int level);
 
 // The text of a puzzle just loaded or restarted, and its end: of the big hint window.
 std::string HelpText();

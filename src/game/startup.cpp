@@ -17,20 +17,6 @@ constexpr std::array<std::string_view, 10> kSoundFiles = {
     "Applause.wav", "Discard.wav",  "Assign.wav", "ResetCell.wav", "Solution.wav",
     "Label.wav",    "UndoRedo.wav", "Hint.wav",   "Error.wav",     "Giggle.wav"};
 
-// The first folder that holds the shipped puzzles; the executable's own where none does.
-fs::path ProgramFolder(const fs::path& executable) {
-    const fs::path share = executable.parent_path() / "share";
-    const std::array<fs::path, 4> places = {executable, executable / "assets", share / "vemosud2",
-                                            share / "games" / "vemosud2"};
-    std::error_code error;
-    for (const fs::path& place : places) {
-        if (fs::is_regular_file(place / PuzzleFileName(1), error)) {
-            return place;
-        }
-    }
-    return executable;
-}
-
 // A sound that cannot be loaded is silent.
 void InitSound(Stage& stage, const fs::path& programFolder) {
     for (std::size_t slot = 0; slot < kSoundFiles.size(); ++slot) {
@@ -78,6 +64,20 @@ bool HasUnsavedSteps(const Session& session) {
 }
 
 }  // namespace
+
+// The first folder that holds the shipped puzzles; the executable's own where none does.
+fs::path ProgramFolder(const fs::path& executable) {
+    const fs::path share = executable.parent_path() / "share";
+    const std::array<fs::path, 4> places = {executable, executable / "assets", share / "vemosud2",
+                                            share / "games" / "vemosud2"};
+    std::error_code error;
+    for (const fs::path& place : places) {
+        if (fs::is_regular_file(place / PuzzleFileName(1), error)) {
+            return place;
+        }
+    }
+    return executable;
+}
 
 bool StartUp(Stage& stage) {
     const fs::path programFolder = ProgramFolder(stage.folders.Executable());

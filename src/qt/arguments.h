@@ -4,12 +4,22 @@
 #include <QString>
 #include <QStringList>
 
+#include "game/print_order.h"
+
 namespace vemo {
 
+// Pages of a level's sudokus, as a PDF file.
+struct PrintRequest {
+    LevelRun run;
+    PageStyle style;
+    QString file;
+};
+
 struct Arguments {
-    enum class Task : unsigned char { Play, Demo };
+    enum class Task : unsigned char { Play, Demo, Print };
     Task task = Task::Play;
     QString demoFile;
+    PrintRequest print;
     QString error;  // what is wrong; empty for a good command line
 };
 
@@ -19,6 +29,9 @@ Arguments ReadArguments(const QStringList& given);
 
 QString UsageText();
 QString VersionText();
+
+// The task needs no display, whether there is one or not.
+bool NeedsNoDisplay(const QStringList& given);
 
 // Why no window can be opened here, as a sentence; empty where one can. The toolkit itself would
 // only abort. `given` is the whole command line without the program's name.

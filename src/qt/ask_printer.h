@@ -7,7 +7,7 @@ class QWidget;
 
 namespace vemo {
 
-// False where the player cancels. `document` names what is printed.
-bool AskPrinter(QPrinter& printer, const QString& document, QWidget* parent);
+// False where the player cancels. `document` names what is printed, which has so many pages.
+bool AskPrinter(QPrinter& printer, const QString& document, int pages, QWidget* parent);
 
 }  // namespace vemo

@@ -7,12 +7,10 @@
 #include <QImage>
 #include <QMenuBar>
 #include <QPainter>
-#include <QPrinter>
 
-#include "qt/ask_printer.h"
 #include "qt/hint_content.h"
 #include "qt/hint_sheet.h"
-#include "qt/message_box.h"
+#include "qt/print_preview.h"
 #include "qt/screen_text.h"
 
 namespace vemo {
@@ -86,17 +84,11 @@ void FormHint::MakeMenu() {
 }
 
 void FormHint::Print() {
-    const HintWindow& window = CurrentGame().CurrentHintWindow();
-    QPrinter printer(QPrinter::HighResolution);
-    if (!AskPrinter(printer, HintHeading(window), this)) {
-        return;
-    }
-    if (!PrintHint(printer, window, CurrentGame().CurrentColors().light)) {
-        const QString where =
-            printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName();
-        const QString text = u"%1: the hint cannot be printed there."_s.arg(where);
-        ShowMessage({"Print", text.toStdString(), BoxButtons::Ok, BoxIcon::Warning}, this);
-    }
+    const auto make = [this](const QPageSize& paper) {
+        return HintPrintout(CurrentGame().CurrentHintWindow(), CurrentGame().CurrentColors().light,
+                            paper);
+    };
+    PrintPreview(CurrentGame(), make, this).exec();
 }
 
 }  // namespace vemo

@@ -2,16 +2,13 @@
 #include "qt/form_log.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QPrinter>
 
-#include "qt/ask_printer.h"
 #include "qt/find_bar.h"
 #include "qt/growing_text.h"
-#include "qt/message_box.h"
+#include "qt/print_preview.h"
 #include "qt/print_text.h"
 #include "qt/text_panel.h"
 
@@ -24,8 +21,7 @@ namespace {
 constexpr QSize kSize(600, 600);
 constexpr QSize kLeastSize(320, 240);
 constexpr int kMargin = 8;
-constexpr int kDelay = 40;          // milliseconds
-constexpr double kPageMargin = 15;  // millimetres
+constexpr int kDelay = 40;  // milliseconds
 
 GrowingText* MakeText(QWidget* parent) {
     auto* text = new GrowingText(parent);
@@ -113,22 +109,10 @@ void FormLog::ShowText() {
 }
 
 void FormLog::Print() {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setPageMargins(QMarginsF(kPageMargin, kPageMargin, kPageMargin, kPageMargin),
-                           QPageLayout::Millimeter);
-    if (!AskPrinter(printer, windowTitle(), this)) {
-        return;
-    }
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    const int pages = PrintText(printer, windowTitle(), text_->toPlainText());
-    QApplication::restoreOverrideCursor();
-    if (pages == 0) {
-        const QString where = printer.outputFileName();
-        const QString name = where.isEmpty() ? printer.printerName() : where;
-        ShowMessage({"Print", "The solve log cannot be printed: " + name.toStdString(),
-                     BoxButtons::Ok, BoxIcon::Warning},
-                    this);
-    }
+    const auto make = [this](const QPageSize& paper) {
+        return TextPrintout(windowTitle(), text_->toPlainText(), paper);
+    };
+    PrintPreview(CurrentGame(), make, this).exec();
 }
 
 }  // namespace vemo

@@ -6,6 +6,7 @@
 #include "qt/form_generator.h"
 #include "qt/form_hint.h"
 #include "qt/form_log.h"
+#include "qt/form_print.h"
 #include "qt/solve_tech_window.h"
 
 namespace vemo {
@@ -51,6 +52,9 @@ void Forms::Open(Form form, Keyboard keyboard, const BoardColors& colors) {
     case Form::FormColors:
         Made(formColors_, game_, mainWindow_).Open(keyboard);
         break;
+    case Form::FormPrint:
+        Made(print_, game_, mainWindow_).Open(keyboard);
+        break;
     }
     ShowScreen(colors);
 }
@@ -75,6 +79,9 @@ void Forms::Close(Form form) {
     case Form::FormColors:
         CloseOpen(formColors_);
         break;
+    case Form::FormPrint:
+        CloseOpen(print_);
+        break;
     }
 }
 
@@ -96,6 +103,9 @@ void Forms::ShowScreen(const BoardColors& colors) {
     }
     if (IsOpen(formColors_)) {
         formColors_->ShowScreen(colors);
+    }
+    if (IsOpen(print_)) {
+        print_->ShowScreen();
     }
 }
 

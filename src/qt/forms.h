@@ -13,6 +13,7 @@ class FormColors;
 class FormGenerator;
 class FormHint;
 class FormLog;
+class FormPrint;
 class SolveTechWindow;
 
 class Forms {
@@ -36,6 +37,7 @@ class Forms {
     FormGenerator* generator_ = nullptr;
     FormCollection* collection_ = nullptr;
     FormColors* formColors_ = nullptr;
+    FormPrint* print_ = nullptr;
 };
 
 }  // namespace vemo

@@ -6,7 +6,6 @@
 
 #include <QApplication>
 #include <QPainter>
-#include <QPrinter>
 
 #include "qt/board_picture.h"
 #include "qt/legend.h"
@@ -26,6 +25,7 @@ constexpr double kCardRadius = 8;  // logical pixels
 constexpr double kLargestPrint = 12;
 constexpr double kSmallestPrint = 5;
 constexpr double kPrintStep = 0.5;
+constexpr double kPrintMargin = 15;  // millimetres
 constexpr double kPointsPerInch = 72;
 constexpr double kLogicalPerInch = 96;
 constexpr double kPaperShade = 0.12;
@@ -116,24 +116,24 @@ void HintSheet::PaintCard(QPainter& painter, const QRect& place) const {
     painter.restore();
 }
 
-bool PrintHint(QPrinter& printer, const HintWindow& window, const ColorSet& light) {
-    QPainter painter;
-    if (!painter.begin(&printer)) {
-        return false;
-    }
-    const QSize page = printer.pageLayout().paintRectPixels(printer.resolution()).size();
+Printout HintPrintout(const HintWindow& window, const ColorSet& light, const QPageSize& paper) {
+    const QRectF room = RoomOn(paper, kPrintMargin);
+    const QSize page = room.size().toSize();
+    const auto sheet = [](const HintWindow& shown, const BoardColors& colors, double points) {
+        const QFont font = Sized(QApplication::font(), points * kDotsPerInch / kPointsPerInch);
+        return HintSheet(shown, colors, font, kDotsPerInch / kLogicalPerInch);
+    };
     const BoardColors colors = PaperColors(light);
     double points = kLargestPrint;
-    const auto sheet = [&] {
-        const QFont font =
-            Sized(QApplication::font(), points * printer.resolution() / kPointsPerInch);
-        return HintSheet(window, colors, font, printer.resolution() / kLogicalPerInch);
-    };
-    while (points > kSmallestPrint && sheet().SizeFor(page).height() > page.height()) {
+    while (points > kSmallestPrint &&
+           sheet(window, colors, points).SizeFor(page).height() > page.height()) {
         points -= kPrintStep;
     }
-    sheet().Paint(painter, page);
-    return painter.end();
+    const auto paint = [=](QPainter& painter, int) {
+        painter.translate(room.topLeft());
+        sheet(window, colors, points).Paint(painter, page);
+    };
+    return {HintHeading(window), paper, 1, paint};
 }
 
 }  // namespace vemo

@@ -6,10 +6,10 @@
 
 #include "game/hint_window.h"
 #include "qt/hint_plan.h"
+#include "qt/printout.h"
 #include "qt/theme.h"
 
 class QPainter;
-class QPrinter;
 
 namespace vemo {
 
@@ -41,7 +41,7 @@ class HintSheet {
     int line_;
 };
 
-// On one page, in the colours of light windows on white. False where the printer cannot be opened.
-bool PrintHint(QPrinter& printer, const HintWindow& window, const ColorSet& light);
+// On one page, in the colours of light windows on white.
+Printout HintPrintout(const HintWindow& window, const ColorSet& light, const QPageSize& paper);
 
 }  // namespace vemo

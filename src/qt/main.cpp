@@ -11,6 +11,7 @@
 #include "qt/look.h"
 #include "qt/main_window.h"
 #include "qt/make_sounds.h"
+#include "qt/print_command.h"
 #include "qt/qt_clock.h"
 #include "qt/qt_folders.h"
 #include "qt/qt_settings.h"
@@ -74,6 +75,20 @@ int Play() {
     return code;
 }
 
+int PrintPages(const vemo::PrintRequest& request) {
+    vemo::QtSettings settings;
+    vemo::QtFolders folders;
+    vemo::PlainFiles files;
+    const vemo::PrintOutcome outcome = vemo::PrintToFile(request, settings, folders, files);
+    if (!outcome.error.isEmpty()) {
+        return Complain(outcome.error, kFailure);
+    }
+    if (!outcome.notice.isEmpty()) {
+        Complain(outcome.notice, kFailure);
+    }
+    return Print(u"Pages in %1: %2\n"_s.arg(request.file).arg(outcome.pages));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -88,7 +103,7 @@ int main(int argc, char** argv) {
         return Print(vemo::UsageText());
     }
     if (const QString reason = vemo::WhyNoDisplay(given); !reason.isEmpty()) {
-        if (!given.contains(u"--demo"_s)) {
+        if (!vemo::NeedsNoDisplay(given)) {
             return Complain(reason, kFailure);
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -101,5 +116,13 @@ int main(int argc, char** argv) {
     if (!arguments.error.isEmpty()) {
         return Complain(arguments.error + u" (see --help)"_s, kWrongUsage);
     }
-    return arguments.task == Task::Demo ? vemo::RunDemo(arguments.demoFile) : Play();
+    switch (arguments.task) {
+    case Task::Demo:
+        return vemo::RunDemo(arguments.demoFile);
+    case Task::Print:
+        return PrintPages(arguments.print);
+    case Task::Play:
+        break;
+    }
+    return Play();
 }

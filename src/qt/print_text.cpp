@@ -1,4 +1,4 @@
-// Prints a plain text over as many pages as it needs.
+// A plain text as a printout.
 #include "qt/print_text.h"
 
 #include <algorithm>
@@ -6,7 +6,6 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPrinter>
 
 namespace vemo {
 
@@ -15,6 +14,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double kPointSize = 9;
+constexpr double kPointsPerInch = 72;
+constexpr double kMargin = 15;      // millimetres
 constexpr double kFooterLines = 2;  // below the text
 
 // Lines of at most `across` characters, broken at a space where there is one.
@@ -32,54 +33,37 @@ QStringList Wrapped(const QString& text, qsizetype across) {
     return lines;
 }
 
-// The pages that the player asked for, from 1.
-struct Pages {
-    int first;
-    int last;
-};
-
-Pages PagesOf(const QPrinter& printer, int count) {
-    if (printer.printRange() != QPrinter::PageRange || printer.fromPage() == 0) {
-        return {1, count};
+void PaintText(QPainter& painter, const QFont& font, const QRectF& page, const QStringList& lines,
+               const QString& title, const QString& number) {
+    const QFontMetricsF metrics(font);
+    painter.setFont(font);
+    painter.setPen(Qt::black);
+    double baseline = page.top() + metrics.ascent();
+    for (const QString& line : lines) {
+        painter.drawText(QPointF(page.left(), baseline), line);
+        baseline += metrics.lineSpacing();
     }
-    const int last = printer.toPage() == 0 ? count : printer.toPage();
-    return {printer.fromPage(), std::min(last, count)};
+    painter.drawText(page, Qt::AlignBottom | Qt::AlignLeft, title);
+    painter.drawText(page, Qt::AlignBottom | Qt::AlignRight, number);
 }
 
 }  // namespace
 
-int PrintText(QPrinter& printer, const QString& title, const QString& text) {
-    QPainter painter;
-    if (!painter.begin(&printer)) {
-        return 0;
-    }
+Printout TextPrintout(const QString& title, const QString& text, const QPageSize& paper) {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPointSizeF(kPointSize);
-    painter.setFont(font);
-    painter.setPen(Qt::black);
-    const QRectF page(QPointF(0, 0),
-                      QSizeF(printer.pageLayout().paintRectPixels(printer.resolution()).size()));
-    const QFontMetricsF metrics(font, &printer);
-    const double line = metrics.lineSpacing();
+    font.setPixelSize(static_cast<int>(kPointSize * kDotsPerInch / kPointsPerInch));
+    const QRectF page = RoomOn(paper, kMargin);
+    const QFontMetricsF metrics(font);
     const auto across = static_cast<qsizetype>(page.width() / metrics.horizontalAdvance(u'0'));
-    const int perPage = std::max(1, static_cast<int>(page.height() / line - kFooterLines));
+    const int perPage =
+        std::max(1, static_cast<int>(page.height() / metrics.lineSpacing() - kFooterLines));
     const QStringList lines = Wrapped(text, std::max<qsizetype>(1, across));
     const int count = static_cast<int>((lines.size() + perPage - 1) / perPage);
-    const Pages pages = PagesOf(printer, count);
-    for (int number = pages.first; number <= pages.last; ++number) {
-        if (number > pages.first) {
-            printer.newPage();
-        }
-        double baseline = metrics.ascent();
-        for (const QString& content : lines.mid((number - 1) * perPage, perPage)) {
-            painter.drawText(QPointF(0, baseline), content);
-            baseline += line;
-        }
-        painter.drawText(page, Qt::AlignBottom | Qt::AlignLeft, title);
-        painter.drawText(page, Qt::AlignBottom | Qt::AlignRight,
-                         u"Page %1 of %2"_s.arg(number).arg(count));
-    }
-    return count;
+    const auto paint = [=](QPainter& painter, int number) {
+        PaintText(painter, font, page, lines.mid(qsizetype{number} * perPage, perPage), title,
+                  u"Page %1 of %2"_s.arg(number + 1).arg(count));
+    };
+    return {title, paper, count, paint};
 }
 
 }  // namespace vemo

@@ -8,11 +8,10 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QScrollBar>
 
 #include "qt/hint_sheet.h"
+#include "qt/print_support.h"
 #include "qt/screen_text.h"
 #include "qt/window_fixture.h"
 
@@ -188,31 +187,17 @@ class FormHintTest final : public QObject {
 
     void ItIsPrinted() {
         Open();
-        const auto answer = [this](const QString& path, QDialog::DialogCode code) {
-            Answer<QPrintDialog>([path, code](QPrintDialog& dialog) {
-                dialog.printer()->setOutputFormat(QPrinter::PdfFormat);
-                dialog.printer()->setOutputFileName(path);
-                dialog.done(code);
-            });
+        const auto print = [this](const QString& path, QDialog::DialogCode code) {
+            return PrintFromPreview([this] { Press(Qt::Key_P); }, path, code);
         };
         const QString mine = fixture_->data.filePath(u"mine.pdf"_s);
-        answer(mine, QDialog::Accepted);
-        Click("mnuWindowPrint");
-        QFile file(mine);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY(file.readAll().startsWith("%PDF"));
-
+        QCOMPARE(print(mine, QDialog::Accepted), u"Pages printed: 1. "_s + mine);
+        QCOMPARE(PdfPages(mine), 1);
         const QString refused = fixture_->data.filePath(u"refused.pdf"_s);
-        answer(refused, QDialog::Rejected);
-        Press(Qt::Key_P);
+        QCOMPARE(print(refused, QDialog::Rejected), QString());
         QVERIFY(!QFile::exists(refused));
-
         const QString nowhere = fixture_->data.filePath(u"no folder/mine.pdf"_s);
-        answer(nowhere, QDialog::Accepted);
-        fixture_->boxes.Expect(
-            {u"Print"_s, nowhere + u": the hint cannot be printed there."_s, QMessageBox::Ok});
-        Press(Qt::Key_P);
-        QCOMPARE(answered_, 3);
+        QCOMPARE(print(nowhere, QDialog::Accepted), u"It cannot be printed there: "_s + nowhere);
     }
 
     void TheMenuIsOffWhileTheGameIsBusy() {

@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "qt/print_run.h"
+#include "qt/print_support.h"
 #include "qt/print_text.h"
 #include "qt/window_fixture.h"
 
@@ -138,30 +140,45 @@ class FormLogTest final : public QObject {
 
     void APrintHasAsManyPagesAsItNeeds() {
         const QString line = u"Hidden Single 1 in box at cell A1\n"_s;
-        const auto print = [this](const QString& text, int fromPage, int toPage) {
-            QPrinter printer(QPrinter::HighResolution);
-            printer.setOutputFileName(fixture_->data.filePath(u"log.pdf"_s));
-            if (fromPage != 0) {
-                printer.setPrintRange(QPrinter::PageRange);
-                printer.setFromTo(fromPage, toPage);
-            }
-            return PrintText(printer, u"Solve log"_s, text);
+        const auto printed = [](const QString& text) {
+            return TextPrintout(u"Solve log"_s, text, QPageSize(QPageSize::A4));
         };
-        const auto pagesOnPaper = [this] {
-            QFile file(fixture_->data.filePath(u"log.pdf"_s));
-            return file.open(QIODevice::ReadOnly) ? file.readAll().count("/Type /Page\n") : 0;
-        };
-        QCOMPARE(print(line, 0, 0), 1);
-        const int pages = print(line.repeated(1000), 0, 0);
+        QCOMPARE(printed(line).pages, 1);
+        const int pages = printed(line.repeated(1000)).pages;
         QVERIFY(pages > 9);
-        QCOMPARE(pagesOnPaper(), pages);
         // A line that is too wide goes on in the next.
-        QVERIFY(print(line.repeated(1000).remove(u'\n'), 0, 0) > 3);
-        QCOMPARE(print(line.repeated(1000), 2, 4), pages);
-        QCOMPARE(pagesOnPaper(), 3);
-        QPrinter nowhere;
-        nowhere.setOutputFileName(fixture_->data.filePath(u"no/such/folder.pdf"_s));
-        QCOMPARE(PrintText(nowhere, u"Solve log"_s, line), 0);
+        QVERIFY(printed(line.repeated(1000).remove(u'\n')).pages > 3);
+    }
+
+    void ThePagesAskedForArePrinted() {
+        const QString path = fixture_->data.filePath(u"log.pdf"_s);
+        QString text;
+        for (int number = 1; number <= 1000; ++number) {
+            text += u"line %1\n"_s.arg(number);
+        }
+        const Printout printout = TextPrintout(u"Solve log"_s, text, QPageSize(QPageSize::A4));
+        auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer->setOutputFileName(path);
+        printer->setPrintRange(QPrinter::PageRange);
+        printer->setFromTo(2, 4);
+        PrintRun run(printout, std::move(printer));
+        while (!run.IsOver()) {
+            QVERIFY(run.Step());
+        }
+        QVERIFY(run.End());
+        QCOMPARE(PdfPages(path), 3);
+        QVERIFY(PdfText(path).contains(u"Page 2 of %1"_s.arg(printout.pages)));
+        QVERIFY(!PdfText(path).contains(u"line 1\n"_s));
+    }
+
+    void ItIsPrintedFromItsPreview() {
+        Solve();
+        Open();
+        const QString path = fixture_->data.filePath(u"mine.pdf"_s);
+        const QString said =
+            PrintFromPreview([this] { Key(Qt::Key_P, Qt::ControlModifier); }, path);
+        QVERIFY(said.startsWith(u"Pages printed: "_s));
+        QVERIFY(PdfText(path).contains(u"Solve log"_s));
     }
 
   private:
