@@ -16,8 +16,8 @@ enum class PrintSource : std::uint8_t {
     Selection,  // what another window handed over
 };
 
-// At a time: more than a player's lifetime.
-inline constexpr int kMostPrinted = 10000;
+// At a time: so many are read before the player notices.
+inline constexpr int kMostPrinted = 2000;
 
 struct PrintOrder {
     PrintSource source = PrintSource::Run;

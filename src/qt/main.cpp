@@ -102,11 +102,12 @@ int main(int argc, char** argv) {
     if (given.contains(u"--help"_s) || given.contains(u"-h"_s)) {
         return Print(vemo::UsageText());
     }
-    if (const QString reason = vemo::WhyNoDisplay(given); !reason.isEmpty()) {
-        if (!vemo::NeedsNoDisplay(given)) {
-            return Complain(reason, kFailure);
-        }
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QString reason = vemo::WhyNoDisplay(given);
+    if (!reason.isEmpty() && !vemo::NeedsNoDisplay(given)) {
+        return Complain(reason, kFailure);
+    }
+    if (const QByteArray platform = vemo::PlatformFor(given); !platform.isEmpty()) {
+        qputenv("QT_QPA_PLATFORM", platform);
     }
     QApplication::setStyle(new vemo::Look);
     vemo::InstallBoardAccessibility();

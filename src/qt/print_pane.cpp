@@ -92,6 +92,10 @@ QLayout* PrintPane::MakeFoot() {
     progress_->setObjectName(u"ProgressPrint"_s);
     progress_->setAccessibleName(u"Pages painted"_s);
     progress_->setTextVisible(false);
+    // The buttons stay where they are while it is hidden.
+    QSizePolicy policy = progress_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    progress_->setSizePolicy(policy);
     print_ = MakeButton(u"CommandPrint"_s, u"&Print..."_s, &PrintPane::Print);
     print_->setDefault(true);
     save_ = MakeButton(u"CommandSavePdf"_s, u"&Save as PDF..."_s, &PrintPane::SavePdf);
@@ -102,7 +106,6 @@ QLayout* PrintPane::MakeFoot() {
         buttons->addWidget(button);
     }
     buttons->addWidget(progress_, 1);
-    buttons->addStretch(1);
     auto* column = new QVBoxLayout;
     column->setSpacing(kGap);
     column->addWidget(message_);

@@ -85,6 +85,13 @@ class SystemTest final : public QObject {
             qunsetenv(variable);
         }
         QVERIFY(WhyNoDisplay({}).contains(u"DISPLAY"_s));
+        QVERIFY(!NeedsNoDisplay({}));
+        QCOMPARE(PlatformFor({u"--demo"_s, u"a.png"_s}), "offscreen");
+        qputenv("DISPLAY", ":0");
+        QCOMPARE(PlatformFor({u"--demo"_s, u"a.png"_s}), "");
+        QCOMPARE(PlatformFor({u"--print"_s, u"Easy:1"_s}), "offscreen");
+        QCOMPARE(PlatformFor({u"--print"_s, u"Easy:1"_s, u"-platform"_s, u"xcb"_s}), "");
+        qunsetenv("DISPLAY");
         QCOMPARE(WhyNoDisplay({u"-platform"_s, u"offscreen"_s}), QString());
     }
 
