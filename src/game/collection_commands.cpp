@@ -1,10 +1,12 @@
 // The events of the collection window.
 #include "game/collection_commands.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "game/collection_texts.h"
 #include "game/play_levels.h"
+#include "game/print_window.h"
 
 namespace vemo {
 namespace {
@@ -84,6 +86,28 @@ void CollectionCommands::CommandExport(ExportFormat format) {
     if (path) {
         stage_.collection.Export(format, *path);
     }
+    stage_.show();
+}
+
+void CollectionCommands::CommandPrint() {
+    const CollectionWindow& window = Window();
+    const RowList rows = window.Chosen();
+    const std::size_t count = std::min(rows.Size(), std::size_t{kMostPrinted});
+    std::vector<PrintedSudoku> sudokus;
+    for (std::size_t at = 0; at < count; ++at) {
+        if (const auto sudoku = window.PrintedOf(rows[at])) {
+            sudokus.push_back(*sudoku);
+        }
+    }
+    if (sudokus.empty()) {
+        return;
+    }
+    if (count < rows.Size()) {
+        Tell(stage_, "Print",
+             "The first " + Grouped(count) + " of " + Grouped(rows.Size()) +
+                 " sudokus are printed. Select others to print them.");
+    }
+    PrintSelection(stage_, std::move(sudokus), window.Name());
     stage_.show();
 }
 

@@ -32,6 +32,8 @@ class CollectionCommands {
     void CommandRemoveTwins(Sameness sameness);
     void CommandPutBack();
     void CommandExport(ExportFormat format);
+    // Opens the window that prints, with the chosen ones; with the first of very many.
+    void CommandPrint();
     void CommandCancel();
     void Tick();
 

@@ -240,14 +240,29 @@ std::string CollectionWindow::CopyText() const {
     return text;
 }
 
-std::optional<StoredPlace> CollectionWindow::PlaceOfCurrent() const {
-    if (current_ == kNoRow) {
+std::optional<PrintedSudoku> CollectionWindow::PrintedOf(std::uint32_t number) const {
+    const TableRow& row = table_->Row(number);
+    const auto clues = table_->Clues(number);
+    if (!clues) {
         return std::nullopt;
     }
-    if (level_ != 0) {
-        return StoredPlace{level_, static_cast<int>(current_) + 1};
+    PuzzleRecord record{*clues, {}, row.Best()};
+    if (row.HasSolutions() == Solutions::One) {
+        record.solution = FastCount(*clues).first;
     }
-    const TableRow& row = table_->Row(current_);
+    const StoredPlace place = PlaceOf(number).value_or(StoredPlace{row.Level(), 0});
+    return PrintedFrom(record, place.level, place.number);
+}
+
+std::optional<StoredPlace> CollectionWindow::PlaceOfCurrent() const {
+    return current_ == kNoRow ? std::nullopt : PlaceOf(current_);
+}
+
+std::optional<StoredPlace> CollectionWindow::PlaceOf(std::uint32_t number) const {
+    if (level_ != 0) {
+        return StoredPlace{level_, static_cast<int>(number) + 1};
+    }
+    const TableRow& row = table_->Row(number);
     return row.Note() == RowNote::Stored
                ? std::optional(StoredPlace{row.Level(), static_cast<int>(row.Other())})
                : std::nullopt;

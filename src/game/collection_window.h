@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "game/collection_log.h"
+#include "game/print_pages.h"
 #include "game/stored_puzzles.h"
 #include "model/files.h"
 #include "solver/settings.h"
@@ -130,6 +131,8 @@ class CollectionWindow {
     // The chosen puzzles, one a line; no more than fit the clipboard well.
     static constexpr std::size_t kMostCopied = 100'000;
     std::string CopyText() const;
+    // A row as it is printed; nothing where its clues cannot be read.
+    std::optional<PrintedSudoku> PrintedOf(std::uint32_t row) const;
 
     // What the last job leaves to be told in a box, once.
     struct Ended {
@@ -154,6 +157,7 @@ class CollectionWindow {
     void Close();
     void ReadNext();
     void LookAtFirst();
+    std::optional<StoredPlace> PlaceOf(std::uint32_t row) const;
     void Rebuild();
     void ShowCurrent();
     // collection_jobs.cpp

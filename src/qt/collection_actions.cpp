@@ -68,6 +68,10 @@ CollectionActions::CollectionActions(Game& game, QWidget* parent) : QWidget(pare
            u"Rate them and add those that are new to the level files"_s, CollectionJob::Import);
     AddButton(MakeMenuButton(u"CommandExport"_s, u"&Export"_s, *MakeExportMenu(), this),
               u"Write them to a file"_s);
+    auto* print = new QPushButton(u"Prin&t..."_s, this);
+    print->setObjectName(u"CommandPrint"_s);
+    connect(print, &QPushButton::clicked, this, [this] { game_.Collection().CommandPrint(); });
+    AddButton(print, u"Print them, or see the pages first"_s);
 }
 
 void CollectionActions::AddJob(const QString& name, const QString& text, const QString& toolTip,

@@ -130,7 +130,7 @@ QWidget* FormCollection::MakeTop(QWidget* body) {
         MakeOpener(u"CommandLayout"_s, u"L&ayout..."_s,
                    u"Say how the open file is to be read: for records of a foreign program"_s);
     connect(layout_, &QPushButton::clicked, this, [this] { AskLayout(); });
-    filterButton_ = MakeOpener(u"CommandFilters"_s, u"Fil&ters"_s, u"Which sudokus are shown"_s);
+    filterButton_ = MakeOpener(u"CommandFilters"_s, u"&Filters"_s, u"Which sudokus are shown"_s);
     filterButton_->setCheckable(true);
     connect(filterButton_, &QPushButton::toggled, this, [this] { Arrange(); });
     for (QPushButton* button : {open_, level_, layout_, filterButton_}) {
@@ -228,7 +228,7 @@ void FormCollection::ShowOpen() {
     level_->setEnabled(!isBusy);
     layout_->setEnabled(Window().MayReadByLayout());
     const int filters = CollectionFilter::CountSet(Window().Order());
-    filterButton_->setText(filters == 0 ? u"Fil&ters"_s : u"Fil&ters: %1 set"_s.arg(filters));
+    filterButton_->setText(filters == 0 ? u"&Filters"_s : u"&Filters: %1 set"_s.arg(filters));
 }
 
 void FormCollection::ShowLog() {

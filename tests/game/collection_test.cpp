@@ -342,6 +342,20 @@ TEST_F(CollectionTest, ExportsReadBackAndAFailureLeavesTheOldFile) {
     EXPECT_EQ(Window().CopyText(), kEasy + "\n" + HardLine() + "\n");
 }
 
+TEST_F(CollectionTest, TheChosenSudokusArePrinted) {
+    Open(kEasy + "\n" + HardLine() + "\n" + kSeveral + "\n");
+    Run(CollectionJob::Rate);
+    Commands().Select({{0, 1}, {2, 1}}, 0);
+    Commands().CommandPrint();
+    EXPECT_EQ(view.opened.back(), Form::FormPrint);
+    const std::vector<PrintedSudoku>& printed = game->CurrentPrint().Job().sudokus;
+    ASSERT_EQ(printed.size(), 2u);
+    EXPECT_EQ(WriteGrid81(printed[0].clues), kEasy);
+    EXPECT_EQ(CaptionOf(printed[0]), "Easy");
+    EXPECT_TRUE(printed[0].HasSolution());
+    EXPECT_FALSE(printed[1].HasSolution());
+}
+
 TEST_F(CollectionTest, TheGameDoesNotEndMeanwhile) {
     Open(CorpusText());
     Commands().CommandStart(CollectionJob::Rate);
