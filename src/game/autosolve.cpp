@@ -52,9 +52,9 @@ PassResult RunPasses(Stage& stage, Solver& solver) {
     return PassResult::Solved;
 }
 
-void ShowAsHint(Stage& stage, const Find& find) {
+void ShowAsHint(Stage& stage, const Solver& solver) {
     SpeelUnlessScanning(stage, Sound::Hint);
-    ShowFind(stage, find);
+    ShowLastFind(stage, solver);
 }
 
 // The step that Stop kept from being taken. Trials are left out: Stop acts at once.
@@ -67,7 +67,7 @@ void ShowNextStep(Stage& stage) {
         result = solver.Pass(ladder);
     }
     if (result == PassResult::Hint) {
-        ShowAsHint(stage, solver.LastFind());
+        ShowAsHint(stage, solver);
     } else {
         stage.session.textHint = "Autosolve stopped";
     }
@@ -95,7 +95,7 @@ RunEnd EndOf(Stage& stage, const Solver& solver, PassResult result) {
         ShowNextStep(stage);
         return RunEnd::Stopped;
     case PassResult::Hint:
-        ShowAsHint(stage, solver.LastFind());
+        ShowAsHint(stage, solver);
         return RunEnd::Halted;
     case PassResult::Solved:
         // A puzzle with several solutions can end in another one than its own.

@@ -13,11 +13,6 @@
 #include "game/timer.h"
 
 namespace vemo {
-namespace {
-
-constexpr const char* kWebAddress = "https://vemo.example/sudoku";
-
-}  // namespace
 
 Game::Game(const Platform& platform, View& view) : stage_(platform, view) {
     stage_.show = [this] { Show(); };
@@ -125,6 +120,10 @@ void Game::CommandApplyClick() {
     Handle([](Stage& stage) { ApplyHint(stage); });
 }
 
+void Game::CommandMoreClick() {
+    KeyHelp();
+}
+
 void Game::CommandPauseClick() {
     Handle(TogglePause);
 }
@@ -178,6 +177,14 @@ void Game::Run(CommandId id) {
 
 void Game::CommandHintClick() {
     Run(stage_.session.showMe ? CommandId::SolveShowMe : CommandId::SolveHint);
+}
+
+void Game::KeyHelp() {
+    Handle([](Stage& stage) { OpenHelp(stage, HelpPageFor(stage)); });
+}
+
+void Game::KeyHelp(Form form) {
+    Handle([&](Stage& stage) { OpenHelp(stage, HelpPageFor(stage, form)); });
 }
 
 void Game::mnuSudokuNext() {
@@ -317,8 +324,16 @@ void Game::mnuAppearance(Appearance appearance) {
     });
 }
 
+void Game::mnuHelpContents() {
+    Handle([](Stage& stage) { OpenHelp(stage, kHelpHome); });
+}
+
+void Game::mnuHelpRevision() {
+    Handle([](Stage& stage) { OpenHelp(stage, kRevisionPage); });
+}
+
 void Game::mnuHelpWeb() {
-    Handle([](Stage& stage) { stage.view.OpenLink(kWebAddress); });
+    Handle([](Stage& stage) { OpenHelpLink(stage, std::string(kWebAddress)); });
 }
 
 bool Game::FormQueryUnload(Form form) {
@@ -348,6 +363,7 @@ void Game::FormUnload(Form form) {
         break;
     case Form::FormLog:
     case Form::FormCollection:
+    case Form::FormHelp:
         break;
     }
     Show();
@@ -367,6 +383,10 @@ void Game::mnuWindowClose() {
 
 void Game::mnuLogSave() {
     Handle(SaveSolveLog);
+}
+
+void Game::HelpLinkClicked(const std::string& address) {
+    OpenHelpLink(stage_, address);
 }
 
 void Game::CheckInclude(int index) {

@@ -4,6 +4,7 @@
 
 #include "game/collection_commands.h"
 #include "game/entry.h"
+#include "game/help.h"
 #include "game/menu_ids.h"
 #include "game/screen.h"
 #include "game/stage.h"
@@ -33,6 +34,9 @@ class Game {
     std::string WhyNotPlay() const { return vemo::WhyNotPlay(stage_); }
     // The window "Check and Import" and its events.
     CollectionCommands& Collection() { return collection_; }
+    // The help window's page that was last asked for, and the folder of all pages.
+    const std::string& CurrentHelpPage() const { return stage_.helpPage; }
+    std::filesystem::path HelpFolder() const { return vemo::HelpFolder(stage_); }
 
     // The window.
     void FormLoad();
@@ -51,6 +55,7 @@ class Game {
     void CommandLinkClick();
     void Command1Click(int digit);  // the nine digit filters
     void CommandApplyClick();
+    void CommandMoreClick();  // the help on the hint on display
     void CommandPauseClick();
     void TextHintDblClick();
 
@@ -66,6 +71,8 @@ class Game {
     void KeyMark(int digit);   // toggles a mark of the selected cell
     void KeyReset();           // resets the selected cell, or takes its clue off while making
     void KeyHint();            // a hint, and again to apply it
+    void KeyHelp();            // the help on what the window shows
+    void KeyHelp(Form form);   // the same from another window
 
     // The menus; each button calls its menu twin (CommandHint: Hint or Show Me, by its caption).
     void Run(CommandId id);
@@ -105,7 +112,9 @@ class Game {
     void mnuOptionsSmallWindow();
     void mnuOptionsColors();
     void mnuAppearance(Appearance appearance);
+    void mnuHelpContents();
     void mnuHelpWeb();
+    void mnuHelpRevision();
 
     // The other windows: about to close, and closed, by whatever means; the hint window's menu; the
     // log's Save; the technique manager's boxes, option buttons and buttons.
@@ -121,6 +130,8 @@ class Game {
     void KnopDown();
     void CommandDefaultsClick();
     void CommandOK();
+
+    void HelpLinkClicked(const std::string& address);  // one that leads out of the help
 
     // The generator. It lives beside the game's long functions: only Play waits for their end.
     void GeneratorChange(const GeneratorOrder& order);  // any of the controls for the order

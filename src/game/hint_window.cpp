@@ -128,6 +128,7 @@ void CopyBoard(Stage& stage) {
     window.board = BoardCopy(stage);
     window.caption = session.hint ? session.hintCaption : kNoHint;
     window.text = ExplanationOf(session, window.board);
+    window.slot = session.hintSlot;
     window.note.clear();
 }
 

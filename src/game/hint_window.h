@@ -5,6 +5,7 @@
 #include <string>
 
 #include "game/screen.h"
+#include "solver/catalogue.h"
 
 namespace vemo {
 
@@ -15,8 +16,9 @@ struct HintWindow {
     bool isOpen = false;
     std::string caption = "Hint - ";
     std::string text;
-    std::string note;  // where the last picture was saved; empty: none of this copy
-    Screen board;      // the board's part of a screen counts
+    int slot = kNoSlot;  // of the catalogue; kNoSlot without a hint
+    std::string note;    // where the last picture was saved; empty: none of this copy
+    Screen board;        // the board's part of a screen counts
 };
 
 // Where hints are read in the window (the option is on, or the window is open): fills it with the

@@ -9,12 +9,16 @@
 namespace vemo {
 namespace {
 
+constexpr int kBadSolvedCellSlot = 0;
+constexpr int kMissingCandidateSlot = 1;
+constexpr int kStaleMarkSlot = 2;
 constexpr int kReportPenalty = 10;
 constexpr int kShowMePenalty = 20;
 constexpr const char* kSafeCellText = "A candidate can savely be assigned to the colored cell";
 
-void Report(Stage& stage, const std::string& text) {
+void Report(Stage& stage, int slot, const std::string& text) {
     Speel(stage, Sound::Error);
+    stage.session.hintSlot = slot;
     stage.session.textHint = text;
     Penalty(stage, kReportPenalty);
 }
@@ -72,7 +76,7 @@ void GiveTechniqueHint(Stage& stage) {
         return;
     }
     Speel(stage, Sound::Hint);
-    ShowFind(stage, solver.LastFind());
+    ShowLastFind(stage, solver);
     Penalty(stage, solver.LastStep()->penalty);
 }
 
@@ -111,8 +115,10 @@ bool ShowHiddenMarks(Stage& stage, const char* question) {
     return true;
 }
 
-void ShowFind(Stage& stage, const Find& find) {
+void ShowLastFind(Stage& stage, const Solver& solver) {
     Session& session = stage.session;
+    const Find& find = solver.LastFind();
+    session.hintSlot = solver.LastStep()->slot;
     session.hintCaption = "Hint - " + std::string(HintTitle(find));
     session.textHint = HintText(find);
     session.hintColors.Show(find);
@@ -127,20 +133,20 @@ bool ReportEntries(Stage& stage, Reporter reporter) {
         session.DropHint();
         session.hintColors.ZetHintVak(*cell);
         session.hintColors.MarkWrong(*cell);
-        Report(stage, BadSolvedCellText(*cell, session.grid.Digit(*cell)));
+        Report(stage, kBadSolvedCellSlot, BadSolvedCellText(*cell, session.grid.Digit(*cell)));
         return true;
     }
     if (const std::optional<int> cell = FindMissingCandidate(session.grid, solution)) {
         session.DropHint();
         session.hintColors.ZetHintVak(*cell);
         const char* advice = reporter == Reporter::Hint ? "" : " - Use [Undo] or [Reset Cell]";
-        Report(stage, MissingCandidateText(*cell) + advice);
+        Report(stage, kMissingCandidateSlot, MissingCandidateText(*cell) + advice);
         return true;
     }
     if (const std::optional<StaleMark> stale = FindStaleMark(session.grid)) {
         session.DropHint();
         ColorStaleMark(session, *stale, reporter);
-        Report(stage, StaleMarkText(*stale));
+        Report(stage, kStaleMarkSlot, StaleMarkText(*stale));
         return true;
     }
     return false;

@@ -24,7 +24,8 @@ bool ShowHiddenMarks(Stage& stage, const char* question);
 enum class Reporter : std::uint8_t { Hint, Autosolve };
 bool ReportEntries(Stage& stage, Reporter reporter);
 
-// `SchrijfHint`, the colours and `ShowHint` of a find; it is the hint on display then.
-void ShowFind(Stage& stage, const Find& find);
+// `SchrijfHint`, the colours and `ShowHint` of the solver's last find; it is the hint on display
+// then.
+void ShowLastFind(Stage& stage, const Solver& solver);
 
 }  // namespace vemo

@@ -89,9 +89,9 @@ constexpr MenuRow kRows[] = {
     {AppearanceSystem, kOptions, kAppearance, "As the &System", "", Kind::Radio, kGoesOn, "", ChooseAppearanceEntry<Appearance::AsTheSystem>},
     {AppearanceLight, kOptions, kAppearance, "&Light", "", Kind::Radio, kGoesOn, "", ChooseAppearanceEntry<Appearance::Light>},
     {AppearanceDark, kOptions, kAppearance, "&Dark", "", Kind::Radio, kGoesOn, "", ChooseAppearanceEntry<Appearance::Dark>},
-    {HelpContents, kHelp, "", "&Contents...", "F1", Kind::Command, kGoesOn, kNotYet, nullptr},
+    {HelpContents, kHelp, "", "&Contents...", "F1", Kind::Command, kGoesOn, "", Call<&Game::mnuHelpContents>},
     {HelpWeb, kHelp, "", "Vemo Software on the &Web...", "", Kind::Command, kGoesOn, "", Call<&Game::mnuHelpWeb>},
-    {HelpRevision, kHelp, "", "&Revision History...", "", Kind::Command, kGoesOn, kNotYet, nullptr},
+    {HelpRevision, kHelp, "", "&Revision History...", "", Kind::Command, kGoesOn, "", Call<&Game::mnuHelpRevision>},
 };
 // clang-format on
 

@@ -111,6 +111,7 @@ struct Screen {
     std::vector<LegendEntry> legend;
     std::string hintButton;  // the caption of CommandHint
     bool canApply = false;   // the hint on display can be applied
+    bool hasHelpOnHint = false;
 
     std::string stepText;  // LabelStap
     std::string timeText;  // LabelTijd, "mm:ss"

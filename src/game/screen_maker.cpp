@@ -96,6 +96,7 @@ void PutPuzzle(const Stage& stage, Screen& screen) {
     session.hintColors.PaintOn(screen);
     screen.hintCaption = session.hintCaption;
     screen.textHint = session.textHint;
+    screen.hasHelpOnHint = session.hintSlot != kNoSlot;
     screen.canApply = session.hint && session.IsBoardOn() && !session.IsBusy();
 }
 

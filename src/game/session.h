@@ -53,6 +53,7 @@ struct Session {
 
     HintColors hintColors;
     std::optional<Find> hint;  // the hint on display, while it can be applied
+    int hintSlot = kNoSlot;    // of the hint on display, or of the report
     std::string hintCaption;   // empty: no hint on display
     std::string textHint;
     std::optional<CellDigit> showMe;  // the pending target of Show Me
@@ -80,6 +81,7 @@ struct Session {
     void DropHint() {
         hintColors.WisKleuren();
         hint.reset();
+        hintSlot = kNoSlot;
         hintCaption.clear();
         showMe.reset();
     }

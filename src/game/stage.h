@@ -1,6 +1,7 @@
 // What the parts of the game share: the platform, the front end, and the game's own state.
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <string>
 
@@ -55,6 +56,8 @@ struct Stage {
     GeneratorWindow generator;
     CollectionWindow collection;
     PrintWindow print;
+    std::filesystem::path programFolder;  // what the game reads beside its executable
+    std::string helpPage;                 // that was last asked for
 
     // Makes the screen anew and has it painted; set by the game. Called before every box and every
     // yield, so that the player never looks at an old state.

@@ -80,14 +80,14 @@ fs::path ProgramFolder(const fs::path& executable) {
 }
 
 bool StartUp(Stage& stage) {
-    const fs::path programFolder = ProgramFolder(stage.folders.Executable());
-    stage.files.InstallShippedPuzzles(programFolder);
+    stage.programFolder = ProgramFolder(stage.folders.Executable());
+    stage.files.InstallShippedPuzzles(stage.programFolder);
     stage.options = HaalOpties(stage.settings);
     stage.colors = HaalKleuren(stage.settings);
     stage.colorWindow.Follow();
     stage.techniques = ReadTechniqueSettings(stage.settings);
     stage.generator.ReadSettings();
-    InitSound(stage, programFolder);
+    InitSound(stage, stage.programFolder);
     SchrijfVersie(stage.settings);
     if (!HaveProgressFiles(stage)) {
         stage.view.Close();

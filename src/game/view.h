@@ -57,6 +57,7 @@ enum class Form : std::uint8_t {
     FormCollection,
     FormColors,
     FormPrint,
+    FormHelp,
 };
 // Whether a window takes the keyboard when it comes: where the player asked for it.
 enum class Keyboard : std::uint8_t { Stays, Follows };

@@ -39,7 +39,7 @@ void FormHint::ShowScreen(const BoardColors& colors) {
     setWindowTitle(ToQString(window.caption));
     content_->ShowHint(window, colors);
     const bool isIdle = !CurrentGame().CurrentSession().IsBusy();
-    for (QAction* action : {refresh_, save_, print_}) {
+    for (QAction* action : {refresh_, save_, print_, more_}) {
         action->setEnabled(isIdle);
     }
 }
@@ -78,6 +78,8 @@ void FormHint::MakeMenu() {
                 [&game] { game.mnuWindowsSave(); });
     print_ =
         add(u"mnuWindowPrint"_s, u"&Print..."_s, QKeySequence(u"Ctrl+P"_s), [this] { Print(); });
+    more_ = add(u"mnuWindowMore"_s, u"Learn &More"_s, QKeySequence(u"F1"_s),
+                [&game] { game.KeyHelp(Form::FormHint); });
     menu->addSeparator();
     add(u"mnuWindowClose"_s, u"&Close"_s, QKeySequence(u"Ctrl+W"_s),
         [&game] { game.mnuWindowClose(); });

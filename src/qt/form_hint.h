@@ -28,6 +28,7 @@ class FormHint final : public FormWindow {
     QAction* refresh_ = nullptr;
     QAction* save_ = nullptr;
     QAction* print_ = nullptr;
+    QAction* more_ = nullptr;
 };
 
 }  // namespace vemo

@@ -44,6 +44,8 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     const std::optional<KeyAction> action = ActionOf(*event);
     if (event->key() == Qt::Key_Escape) {
         close();
+    } else if (action && action->kind == KeyAction::Kind::Help) {
+        game_.KeyHelp(form_);
     } else if (action && IsOfEveryWindow(*action)) {
         Do(game_, *action);
     } else {

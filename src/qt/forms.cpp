@@ -4,6 +4,7 @@
 #include "qt/form_collection.h"
 #include "qt/form_colors.h"
 #include "qt/form_generator.h"
+#include "qt/form_help.h"
 #include "qt/form_hint.h"
 #include "qt/form_log.h"
 #include "qt/form_print.h"
@@ -55,6 +56,10 @@ void Forms::Open(Form form, Keyboard keyboard, const BoardColors& colors) {
     case Form::FormPrint:
         Made(print_, game_, mainWindow_).Open(keyboard);
         break;
+    case Form::FormHelp:
+        Made(help_, game_, mainWindow_).Open(keyboard);
+        help_->ShowPage(game_.CurrentHelpPage());
+        break;
     }
     ShowScreen(colors);
 }
@@ -82,6 +87,9 @@ void Forms::Close(Form form) {
     case Form::FormPrint:
         CloseOpen(print_);
         break;
+    case Form::FormHelp:
+        CloseOpen(help_);
+        break;
     }
 }
 
@@ -106,6 +114,9 @@ void Forms::ShowScreen(const BoardColors& colors) {
     }
     if (IsOpen(print_)) {
         print_->ShowScreen();
+    }
+    if (IsOpen(help_)) {
+        help_->ShowScreen(colors);
     }
 }
 

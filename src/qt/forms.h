@@ -11,6 +11,7 @@ namespace vemo {
 class FormCollection;
 class FormColors;
 class FormGenerator;
+class FormHelp;
 class FormHint;
 class FormLog;
 class FormPrint;
@@ -38,6 +39,7 @@ class Forms {
     FormCollection* collection_ = nullptr;
     FormColors* formColors_ = nullptr;
     FormPrint* print_ = nullptr;
+    FormHelp* help_ = nullptr;
 };
 
 }  // namespace vemo

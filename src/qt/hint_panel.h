@@ -1,5 +1,5 @@
 // The panel beside the board that explains the hint: its title, the text box TextHint, the legend
-// of its shapes, and the button that applies it.
+// of its shapes, the button that applies it and the one that leads to the help on it.
 #pragma once
 
 #include <QFrame>
@@ -30,12 +30,14 @@ class HintPanel final : public QFrame {
 
   private:
     void Arrange();
+    void PlaceButtons(const QRect& row, int gap);
 
     Game& game_;
     QLabel* caption_;
     ReadingBox* text_;
     Legend* legend_;
     QPushButton* apply_;
+    QPushButton* more_;  // leads to the help
 };
 
 }  // namespace vemo

@@ -50,6 +50,8 @@ std::optional<KeyAction> Plain(int key) {
     case Qt::Key_Delete:
     case Qt::Key_Backspace:
         return KeyAction{Kind::ResetCell};
+    case Qt::Key_F1:
+        return KeyAction{Kind::Help};
     case Qt::Key_F12:
         return KeyAction{Kind::Hint};
     case Qt::Key_L:
@@ -128,6 +130,9 @@ void Do(Game& game, const KeyAction& action) {
         break;
     case Kind::ResetCell:
         game.KeyReset();
+        break;
+    case Kind::Help:
+        game.KeyHelp();
         break;
     case Kind::Hint:
         game.KeyHint();

@@ -16,6 +16,7 @@ struct KeyAction {
         ToggleMark,
         FilterDigit,
         ResetCell,
+        Help,
         Hint,
         Redo,
         LinkMode,

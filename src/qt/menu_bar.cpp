@@ -15,9 +15,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Their keys do more than the entry does, or have more than one form: the window listens to them.
+// Their keys do more than the entry does, or something else, or have more than one form: the window
+// listens to them.
 bool IsKeyOfWindow(CommandId id) {
-    return id == CommandId::SolveHint || id == CommandId::SolveResetCell;
+    return id == CommandId::SolveHint || id == CommandId::SolveResetCell ||
+           id == CommandId::HelpContents;
 }
 
 void SetUp(QAction& action, const MenuRow& row) {
