@@ -46,7 +46,7 @@ QString StyleOf(const Theme& theme, double points) {
            ".nav,.facts,.log,figcaption{color:%6}"
            ".nav{%7}"
            ".short{%8}"
-           "table{border-collapse:collapse;border-color:%9}"
+           "table{margin-top:6px;margin-bottom:10px;border-collapse:collapse;border-color:%9}"
            "td,th{padding:5px 10px 5px 6px;border:1px solid %9}"
            "th{text-align:left;font-weight:600}"
            "code,kbd,pre{font-family:monospace}"_s.arg(
@@ -132,6 +132,10 @@ int HelpBrowser::MarkWords(const QStringList& words) {
     setExtraSelections(marks);
     if (!places_.isEmpty()) {
         ShowPlace(0);
+    } else {
+        QTextCursor cursor = textCursor();
+        cursor.clearSelection();
+        setTextCursor(cursor);
     }
     return static_cast<int>(places_.size());
 }

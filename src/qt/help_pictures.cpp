@@ -24,10 +24,19 @@ constexpr double kScale = 1.5;  // pixels to one of a plain screen
 constexpr int kSide = 594;      // of the board with its labels
 constexpr int kTextHeight = 20;
 constexpr int kPad = 9;
-constexpr int kMostColors = 16;
-constexpr int kPngQuality = 0;  // as small as it gets; PNG loses nothing
+constexpr int kExactColors = 8;     // the grounds of the board, though some are much alike
+constexpr int kLeastDistance = 40;  // of two colours of a picture, in the space of red, green, blue
+constexpr int kPngQuality = 0;      // as small as it gets; PNG loses nothing
 
-// The colours that most of the picture is made of; the rest are shades at the rims of letters.
+bool AreAlike(QRgb first, QRgb second) {
+    const int red = qRed(first) - qRed(second);
+    const int green = qGreen(first) - qGreen(second);
+    const int blue = qBlue(first) - qBlue(second);
+    return red * red + green * green + blue * blue < kLeastDistance * kLeastDistance;
+}
+
+// The colours that most of the picture is made of, none much like another: the rest are shades at
+// the rims of lines and letters.
 QList<QRgb> MainColors(const QImage& image) {
     QHash<QRgb, int> counts;
     for (int y = 0; y < image.height(); ++y) {
@@ -39,7 +48,15 @@ QList<QRgb> MainColors(const QImage& image) {
     // Of two as frequent the darker one, so that the same board always gives the same file.
     std::ranges::sort(colors, std::greater(),
                       [&counts](QRgb color) { return std::pair(counts[color], ~color); });
-    return colors.first(std::min<qsizetype>(kMostColors, colors.size()));
+    QList<QRgb> chosen;
+    for (const QRgb color : colors) {
+        const bool isNew = std::ranges::none_of(
+            chosen, [color](QRgb earlier) { return AreAlike(color, earlier); });
+        if (isNew || chosen.size() < kExactColors) {
+            chosen << color;
+        }
+    }
+    return chosen;
 }
 
 QImage Drawn(const Screen& board, const BoardColors& colors) {
