@@ -13,7 +13,6 @@
 #include <QSplitter>
 #include <QTreeWidget>
 
-#include "qt/help_browser.h"
 #include "qt/screen_text.h"
 
 namespace vemo {
@@ -21,6 +20,8 @@ namespace vemo {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+using Way = HelpBrowser::Way;
 
 constexpr QSize kSize(1000, 720);
 constexpr QSize kLeastSize(420, 320);
@@ -58,6 +59,7 @@ FormHelp::FormHelp(Game& game, QWidget* parent)
     sides_->addWidget(contents_);
     sides_->addWidget(text_);
     sides_->setStretchFactor(1, 1);
+    sides_->handle(1)->setAccessibleName(u"Border of the contents"_s);
     auto* content = new QWidget(this);
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(kGap, kGap, kGap, kGap);
@@ -132,6 +134,7 @@ QWidget* FormHelp::MakeTop() {
     connect(search_, &QLineEdit::textChanged, this, [this] { Search(); });
     found_->setObjectName(u"LabelFound"_s);
     found_->setTextFormat(Qt::PlainText);
+    found_->hide();
     auto* line = new QHBoxLayout(top);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(kGap);
@@ -249,14 +252,14 @@ void FormHelp::Search() {
                     : found == 0    ? u"Not found"_s
                     : found == 1    ? u"1 page"_s
                                     : u"%1 pages"_s.arg(found));
+    found_->setVisible(!words.isEmpty());
     MarkWords();
 }
 
 // Past the last place on the page, the first on the next page that has the words, and round. From
 // another page, the one that has them in its title.
 void FormHelp::SearchOn(Way way) {
-    if (text_->ShowNextPlace(way == Way::Forward ? HelpBrowser::Way::Forward
-                                                 : HelpBrowser::Way::Backward)) {
+    if (text_->ShowNextPlace(way)) {
         return;
     }
     std::vector<QTreeWidgetItem*> found;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "qt/form_window.h"
+#include "qt/help_browser.h"
 #include "qt/help_index.h"
 #include "qt/theme.h"
 
@@ -14,8 +15,6 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace vemo {
-
-class HelpBrowser;
 
 class FormHelp final : public FormWindow {
   public:
@@ -37,8 +36,7 @@ class FormHelp final : public FormWindow {
     // The contents as far as they have the words of the search.
     void Search();
     void MarkWords();
-    enum class Way : bool { Forward, Backward };
-    void SearchOn(Way way);
+    void SearchOn(HelpBrowser::Way way);
     void ShowEntry(const QTreeWidgetItem* entry);
     QStringList Words() const;
 

@@ -42,6 +42,7 @@ class FormHelpTest final : public QObject {
         fixture_->game.CommandApplyClick();
         fixture_->game.mnuHelpContents();
         fixture_->game.mnuSolveHint();
+        fixture_->window.resize(MainWindow::kSize);  // the smallest one has no room for it
         auto& more = fixture_->Find<QPushButton>("CommandMore");
         QVERIFY(more.isVisible());
         QTest::mouseClick(&more, Qt::LeftButton);
