@@ -39,12 +39,6 @@ void Game::Flip(bool Options::*option) {
     Handle([&](Stage& stage) { FlipOption(stage, option); });
 }
 
-template <typename Event>
-void Game::HandleGenerator(Event event) {
-    event(stage_.generator);
-    Show();
-}
-
 void Game::FormLoad() {
     Handle([](Stage& stage) { StartUp(stage); });
 }
@@ -411,58 +405,6 @@ void Game::CommandDefaultsClick() {
 
 void Game::CommandOK() {
     stage_.view.CloseForm(Form::SolveTech);
-}
-
-void Game::GeneratorChange(const GeneratorOrder& order) {
-    HandleGenerator([&](GeneratorWindow& window) { window.Change(order); });
-}
-
-void Game::CommandStart() {
-    HandleGenerator([](GeneratorWindow& window) { window.Start(); });
-}
-
-void Game::CommandStopSearch() {
-    HandleGenerator([](GeneratorWindow& window) { window.Cancel(); });
-}
-
-void Game::CommandStore() {
-    HandleGenerator([](GeneratorWindow& window) { window.Store(); });
-}
-
-void Game::GeneratorSelect(int row) {
-    HandleGenerator([&](GeneratorWindow& window) { window.Select(row); });
-}
-
-void Game::CommandPlay() {
-    Handle(PlayMadeSudoku);
-}
-
-void Game::GeneratorTick() {
-    TickGenerator(stage_);
-    Show();
-}
-
-void Game::PrintChange(const PrintOrder& order) {
-    stage_.print.Change(stage_, order);
-    Show();
-}
-
-void Game::PrintSudokus(std::vector<PrintedSudoku> sudokus, const std::string& name) {
-    PrintSelection(stage_, std::move(sudokus), name);
-    Show();
-}
-
-void Game::ChoosePaper(Paper paper) {
-    stage_.print.ChoosePaper(stage_, paper);
-    Show();
-}
-
-std::optional<std::filesystem::path> Game::AskPdfFile(const std::string& name) {
-    return vemo::AskPdfFile(stage_, name);
-}
-
-bool Game::StorePdf(const std::filesystem::path& path, std::span<const std::uint8_t> bytes) {
-    return vemo::StorePdf(stage_, path, bytes);
 }
 
 }  // namespace vemo

@@ -57,6 +57,7 @@ constexpr FormRow kFormPages[] = {
     {Form::FormGenerator, "generator.html"},
     {Form::FormCollection, "collection.html"},
     {Form::FormColors, "hint-colors.html"},
+    {Form::FormPrint, "printing.html"},
     {Form::FormHelp, kHelpHome},
 };
 

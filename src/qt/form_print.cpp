@@ -22,7 +22,6 @@ namespace {
 
 constexpr int kPad = 16;
 constexpr QSize kSize(960, 800);
-constexpr QSize kLeastSize(420, 420);
 constexpr int kLeastPane = 400;
 constexpr double kDeskShare = 0.9;      // of the desk's height that the window takes at most
 constexpr double kControlsShare = 0.4;  // of the height, above the pages
@@ -51,7 +50,6 @@ FormPrint::FormPrint(Game& game, QWidget* parent) : FormWindow(game, Form::FormP
     sides_->addWidget(area_);
     sides_->addWidget(pane_, 1);
     setCentralWidget(content);
-    setMinimumSize(kLeastSize);
     const int most = static_cast<int>(kDeskShare * screen()->availableGeometry().height());
     resize(kSize.width(), std::min(kSize.height(), most));
 }
@@ -73,7 +71,7 @@ void FormPrint::ShowJob() {
     pane_->ShowPrintout(PrintoutOf(window.Job(), name));
     const bool isWrong = !window.Error().empty();
     pane_->ShowNote(ToQString(isWrong ? window.Error() : window.Notice()),
-                    isWrong ? PrintPane::Tone::Warning : PrintPane::Tone::Plain);
+                    isWrong ? PrintPane::NoteKind::Warning : PrintPane::NoteKind::Plain);
 }
 
 void FormPrint::closeEvent(QCloseEvent* event) {
@@ -100,7 +98,7 @@ void FormPrint::resizeEvent(QResizeEvent* event) {
         controls_->sizeHint().width() + 2 * kPad + area_->verticalScrollBar()->sizeHint().width();
     const bool isWide = width() >= across + kLeastPane;
     sides_->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    area_->setMinimumWidth(isWide ? across : 0);
+    area_->setMinimumWidth(across);
     area_->setMaximumWidth(isWide ? across : QWIDGETSIZE_MAX);
     area_->setMaximumHeight(isWide ? QWIDGETSIZE_MAX : static_cast<int>(kControlsShare * height()));
 }

@@ -76,9 +76,9 @@ void PrintControls::AddSources(QBoxLayout& column) {
     current_ = MakeSource(u"OptionCurrent"_s, u"The sudoku in the main window"_s);
     run_ = MakeSource(u"OptionRun"_s, u"Numbers of a level"_s);
     selection_ = MakeSource(u"OptionSelection"_s, QString());
-    level_ = MakeCombo(u"ComboLevel"_s, u"Level"_s, LevelNames());
-    first_ = MakeSpin(u"SpinFirst"_s, u"First number"_s);
-    last_ = MakeSpin(u"SpinLast"_s, u"Last number"_s);
+    level_ = AddCombo(u"ComboLevel"_s, u"Level"_s, LevelNames());
+    first_ = AddSpin(u"SpinFirst"_s, u"First number"_s);
+    last_ = AddSpin(u"SpinLast"_s, u"Last number"_s);
     count_ = MakeLabel(QString(), this);
     count_->setForegroundRole(QPalette::PlaceholderText);
     column.addWidget(current_);
@@ -89,19 +89,19 @@ void PrintControls::AddSources(QBoxLayout& column) {
 }
 
 void PrintControls::AddStyle(QFormLayout& form) {
-    content_ = MakeCombo(u"ComboContent"_s, u"In the grids"_s,
-                         {u"The puzzle"_s, u"The puzzle with pencil marks"_s,
-                          u"The current state"_s, u"The solution"_s});
+    content_ = AddCombo(u"ComboContent"_s, u"In the grids"_s,
+                        {u"The puzzle"_s, u"The puzzle with pencil marks"_s, u"The current state"_s,
+                         u"The solution"_s});
     content_->setItemData(static_cast<int>(PrintContent::PencilMarks),
                           u"All digits that the clues leave possible"_s, Qt::ToolTipRole);
     content_->setItemData(static_cast<int>(PrintContent::CurrentState),
                           u"With your digits and pencil marks, as played or saved"_s,
                           Qt::ToolTipRole);
-    perPage_ = MakeCombo(u"ComboPerPage"_s, u"On a page"_s, PerPageNames());
+    perPage_ = AddCombo(u"ComboPerPage"_s, u"On a page"_s, PerPageNames());
     perPage_->setToolTip(u"Fewer ones are printed larger"_s);
-    solutions_ = MakeCombo(u"ComboSolutions"_s, u"Solutions"_s,
-                           {u"None"_s, u"Upside down below"_s, u"On the last pages"_s});
-    paper_ = MakeCombo(u"ComboPaper"_s, u"Paper"_s, PaperNames());
+    solutions_ = AddCombo(u"ComboSolutions"_s, u"Solutions"_s,
+                          {u"None"_s, u"Upside down below"_s, u"On the last pages"_s});
+    paper_ = AddCombo(u"ComboPaper"_s, u"Paper"_s, PaperNames());
     AddRow(form, u"In the grids"_s, content_);
     AddRow(form, u"On a page"_s, perPage_);
     AddRow(form, u"Solutions"_s, solutions_);
@@ -115,22 +115,17 @@ QRadioButton* PrintControls::MakeSource(const QString& name, const QString& text
     return option;
 }
 
-QComboBox* PrintControls::MakeCombo(const QString& name, const QString& spoken,
-                                    const QStringList& choices) {
-    auto* combo = new QComboBox(this);
-    combo->setObjectName(name);
-    combo->setAccessibleName(spoken);
+QComboBox* PrintControls::AddCombo(const QString& name, const QString& spoken,
+                                   const QStringList& choices) {
+    QComboBox* combo = MakeCombo(name, spoken, this);
     combo->addItems(choices);
-    KeepFromWheel(*combo);
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(combo, &QComboBox::currentIndexChanged, this, [this] { Report(); });
     return combo;
 }
 
-QSpinBox* PrintControls::MakeSpin(const QString& name, const QString& spoken) {
-    auto* spin = new QSpinBox(this);
-    spin->setObjectName(name);
-    spin->setAccessibleName(spoken);
-    KeepFromWheel(*spin);
+QSpinBox* PrintControls::AddSpin(const QString& name, const QString& spoken) {
+    QSpinBox* spin = MakeSpin(name, spoken, 1, 1, this);
     connect(spin, &QSpinBox::valueChanged, this, [this] { Report(); });
     return spin;
 }

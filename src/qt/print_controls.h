@@ -28,8 +28,8 @@ class PrintControls final : public QWidget {
     void AddSources(QBoxLayout& column);
     void AddStyle(QFormLayout& form);
     QRadioButton* MakeSource(const QString& name, const QString& text);
-    QComboBox* MakeCombo(const QString& name, const QString& spoken, const QStringList& choices);
-    QSpinBox* MakeSpin(const QString& name, const QString& spoken);
+    QComboBox* AddCombo(const QString& name, const QString& spoken, const QStringList& choices);
+    QSpinBox* AddSpin(const QString& name, const QString& spoken);
     void Report();
     PrintOrder Entered() const;
 

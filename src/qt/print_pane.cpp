@@ -143,9 +143,9 @@ void PrintPane::ShowPrintout(const Printout& printout) {
     view_->ShowPrintout(printout);
 }
 
-void PrintPane::ShowNote(const QString& note, Tone tone) {
+void PrintPane::ShowNote(const QString& note, NoteKind kind) {
     if (run_ == nullptr) {
-        Tell(note, tone);
+        Tell(note, kind);
     }
 }
 
@@ -203,7 +203,7 @@ void PrintPane::GoOn() {
         if (!run_->Step()) {
             const QString where = run_->Where();
             Stop();
-            Tell(u"It cannot be printed there: %1"_s.arg(where), Tone::Warning);
+            Tell(u"It cannot be printed there: %1"_s.arg(where), NoteKind::Warning);
             return;
         }
     }
@@ -220,11 +220,11 @@ void PrintPane::Finish() {
     const std::unique_ptr<PrintRun> run = std::move(run_);
     ShowState();
     if (!isGood) {
-        Tell(u"It cannot be printed there: %1"_s.arg(run->Where()), Tone::Warning);
+        Tell(u"It cannot be printed there: %1"_s.arg(run->Where()), NoteKind::Warning);
     } else if (pdfFile_.empty()) {
-        Tell(u"Pages printed: %1. %2"_s.arg(run->Done()).arg(run->Where()), Tone::Plain);
+        Tell(u"Pages printed: %1. %2"_s.arg(run->Done()).arg(run->Where()), NoteKind::Plain);
     } else if (game_.StorePdf(pdfFile_, run->Pdf())) {
-        Tell(u"Saved: %1"_s.arg(ToQString(Utf8(pdfFile_))), Tone::Plain);
+        Tell(u"Saved: %1"_s.arg(ToQString(Utf8(pdfFile_))), NoteKind::Plain);
     }
     view_->setFocus();
 }
@@ -236,14 +236,14 @@ void PrintPane::Stop() {
     timer_.stop();
     run_.reset();
     ShowState();
-    Tell(pdfFile_.empty() ? u"Stopped."_s : u"Stopped: nothing was saved."_s, Tone::Plain);
+    Tell(pdfFile_.empty() ? u"Stopped."_s : u"Stopped: nothing was saved."_s, NoteKind::Plain);
     view_->setFocus();
 }
 
-void PrintPane::Tell(const QString& message, Tone tone) {
+void PrintPane::Tell(const QString& message, NoteKind kind) {
     message_->setText(message);
-    message_->setForegroundRole(tone == Tone::Warning ? QPalette::BrightText
-                                                      : QPalette::WindowText);
+    message_->setForegroundRole(kind == NoteKind::Warning ? QPalette::BrightText
+                                                          : QPalette::WindowText);
 }
 
 void PrintPane::ShowState() {
@@ -266,7 +266,7 @@ void PrintPane::ShowState() {
     if (isRunning) {
         progress_->setRange(0, run_->Total());
         progress_->setValue(run_->Done());
-        Tell(u"Page %1 of %2..."_s.arg(run_->Done()).arg(run_->Total()), Tone::Plain);
+        Tell(u"Page %1 of %2..."_s.arg(run_->Done()).arg(run_->Total()), NoteKind::Plain);
     }
 }
 

@@ -30,8 +30,8 @@ class PrintPane final : public QWidget {
 
     void ShowPrintout(const Printout& printout);
     // What the player has to know of the printout; a warning where it cannot be printed.
-    enum class Tone : unsigned char { Plain, Warning };
-    void ShowNote(const QString& note, Tone tone);
+    enum class NoteKind : unsigned char { Plain, Warning };
+    void ShowNote(const QString& note, NoteKind kind);
     // While the game is busy nothing is printed.
     void ShowIdle(bool isIdle);
     // Ends what is being printed.
@@ -49,7 +49,7 @@ class PrintPane final : public QWidget {
     void Begin(std::unique_ptr<PrintRun> run);
     void GoOn();
     void Finish();
-    void Tell(const QString& message, Tone tone);
+    void Tell(const QString& message, NoteKind kind);
     void ShowState();
 
     Game& game_;

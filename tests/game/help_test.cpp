@@ -71,6 +71,9 @@ TEST_F(HelpTest, EachWindowHasItsPage) {
     EXPECT_EQ(Page(Form::FormLog), "autosolve.html");
     EXPECT_EQ(Page(Form::SolveTech), "technique-manager.html");
     EXPECT_EQ(Page(Form::FormGenerator), "generator.html");
+    EXPECT_EQ(Page(Form::FormCollection), "collection.html");
+    EXPECT_EQ(Page(Form::FormColors), "hint-colors.html");
+    EXPECT_EQ(Page(Form::FormPrint), "printing.html");
     EXPECT_EQ(Page(Form::FormHint), "hints.html");
     OpenFirst(1);
     game->mnuOptionsSmallWindow();

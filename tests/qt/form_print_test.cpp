@@ -1,7 +1,6 @@
 // The window "Print", by mouse and by keyboard, and printing from the command line.
 #include "qt/form_print.h"
 
-#include <QAccessible>
 #include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
@@ -36,7 +35,6 @@ class FormPrintTest final : public QObject {
     void ThePagesAreInkOnWhitePaper();
     void TheCommandLineWritesTheSamePages();
     void TheCommandLineLosesNothing();
-    void EveryControlHasAName();
     void EverythingCanBeReachedInASmallWindow_data();
     void EverythingCanBeReachedInASmallWindow();
 
@@ -303,18 +301,6 @@ void FormPrintTest::TheCommandLineLosesNothing() {
     // Whoever has no such level yet prints the shipped one.
     std::filesystem::remove(easy);
     QCOMPARE(PrintByCommand({u"--print"_s, u"Easy:2"_s, u"--output"_s, path}).notice, QString());
-}
-
-void FormPrintTest::EveryControlHasAName() {
-    fixture_->OpenFirstEasy();
-    Open();
-    for (QWidget* control : form_->findChildren<QWidget*>()) {
-        const bool isStop = (control->focusPolicy() & Qt::TabFocus) != 0 && !control->focusProxy();
-        if (control->isVisible() && isStop) {
-            QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(control);
-            QVERIFY2(!seen->text(QAccessible::Name).isEmpty(), qPrintable(control->objectName()));
-        }
-    }
 }
 
 void FormPrintTest::EverythingCanBeReachedInASmallWindow_data() {

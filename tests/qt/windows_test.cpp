@@ -30,6 +30,8 @@ constexpr WindowRow kWindows[] = {
     {"FormGenerator", RunCommand<CommandId::SudokuGenerator>},
     {"FormColors", RunCommand<CommandId::OptionsColors>},
     {"FormCollection", RunCommand<CommandId::SudokuCheck>},
+    {"FormPrint", RunCommand<CommandId::SudokuPrint>},
+    {"FormHelp", RunCommand<CommandId::HelpContents>},
 };
 
 class WindowsTest final : public QObject {
