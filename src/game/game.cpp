@@ -163,9 +163,8 @@ void Game::KeyHint() {
 }
 
 void Game::Run(CommandId id) {
-    const MenuRow& row = RowOf(id);
-    if (row.handler != nullptr && screen_.Command(id).isEnabled) {
-        row.handler(*this);
+    if (screen_.Command(id).isEnabled) {
+        RowOf(id).handler(*this);
     }
 }
 

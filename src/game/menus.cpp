@@ -27,9 +27,6 @@ constexpr std::string_view kAppearance = "A&ppearance";
 constexpr bool kBegins = true;
 constexpr bool kGoesOn = false;
 
-// Entries without a handler are part of the game's plan and still to be built.
-constexpr std::string_view kNotYet = "Not part of this version yet";
-
 template <int kNumber>
 void ChooseLevelEntry(Game& game) {
     game.mnuLevelNr(kNumber);
@@ -45,53 +42,53 @@ void Call(Game& game) {
 
 // clang-format off
 constexpr MenuRow kRows[] = {
-    {SudokuNext, kSudoku, "", "&Next", "Ctrl+N", Kind::Command, kGoesOn, "", Call<&Game::mnuSudokuNext>},
-    {SudokuOpen, kSudoku, "", "&Open...", "Ctrl+O", Kind::Command, kGoesOn, "", Call<&Game::mnuSudokuOpen>},
-    {SudokuSave, kSudoku, "", "&Save", "Ctrl+S", Kind::Command, kGoesOn, "", Call<&Game::mnuSudokuSave>},
-    {SudokuMake, kSudoku, "", "&Make", "", Kind::Command, kBegins, "", Call<&Game::mnuSudokuMake>},
-    {SudokuValidate, kSudoku, "", "&Validate", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSudokuValidate>},
-    {SudokuCheck, kSudoku, "", "&Check and Import...", "", Kind::Command, kBegins, "", Call<&Game::mnuSudokuCheck>},
-    {SudokuGenerator, kSudoku, "", "&Generator...", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSudokuGenerator>},
-    {SudokuPrint, kSudoku, "", "&Print...", "Ctrl+P", Kind::Command, kBegins, "", Call<&Game::mnuSudokuPrint>},
-    {SudokuExit, kSudoku, "", "E&xit", "Ctrl+Q", Kind::Command, kBegins, "", Call<&Game::mnuSudokuExit>},
-    {Level1, kLevel, "", "&Easy", "", Kind::Radio, kGoesOn, "", ChooseLevelEntry<1>},
-    {Level2, kLevel, "", "&Medium", "", Kind::Radio, kGoesOn, "", ChooseLevelEntry<2>},
-    {Level3, kLevel, "", "&Hard", "", Kind::Radio, kGoesOn, "", ChooseLevelEntry<3>},
-    {Level4, kLevel, "", "&Crazy", "", Kind::Radio, kGoesOn, "", ChooseLevelEntry<4>},
-    {Level5, kLevel, "", "&Insane", "", Kind::Radio, kGoesOn, "", ChooseLevelEntry<5>},
-    {Level6, kLevel, "", "&Kamikaze", "", Kind::Radio, kGoesOn, "", ChooseLevelEntry<6>},
-    {Level7, kLevel, "", "E&xtreme", "", Kind::Radio, kGoesOn, "", ChooseLevelEntry<7>},
-    {Level8, kLevel, "", "M&ayhem", "", Kind::Radio, kGoesOn, "", ChooseLevelEntry<8>},
-    {Level9, kLevel, "", "&Outlaw", "", Kind::Radio, kGoesOn, "", ChooseLevelEntry<9>},
-    {SolveRestart, kSolve, "", "&Restart", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSolveRestart>},
-    {SolveUndo, kSolve, "", "&Undo", "Ctrl+Z", Kind::Command, kGoesOn, "", Call<&Game::mnuSolveUndo>},
-    {SolveRedo, kSolve, "", "Re&do", "Ctrl+Y", Kind::Command, kGoesOn, "", Call<&Game::mnuSolveRedo>},
-    {SolveResetCell, kSolve, "", "Reset &Cell", "Del", Kind::Command, kGoesOn, "", Call<&Game::mnuSolveResetCell>},
-    {SolveHint, kSolve, "", "&Hint", "F12", Kind::Command, kBegins, "", Call<&Game::mnuSolveHint>},
-    {SolveShowMe, kSolve, "", "Show &Me", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSolveShowMe>},
-    {SolveSolution, kSolve, "", "&Solution", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSolveSolution>},
-    {SolveManager, kSolve, "", "Solve &Tech Manager...", "", Kind::Command, kBegins, "", Call<&Game::mnuSolveManager>},
-    {SolveLog, kSolve, "", "&Log...", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSolveLog>},
-    {SolveAutoSolve, kSolve, "", "&Autosolve", "", Kind::Command, kBegins, "", Call<&Game::mnuSolveAutoSolve>},
-    {SolveScan, kSolve, "", "Sca&n...", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSolveScan>},
-    {SolveStop, kSolve, "", "Sto&p Scanning", "", Kind::Command, kGoesOn, "", Call<&Game::mnuSolveStop>},
-    {PencilmarksMode, kOptions, "", "&Auto Pencilmarks", "", Kind::Check, kGoesOn, "", Call<&Game::mnuPencilmarksMode>},
-    {PencilmarksOff, kOptions, "", "Pencilmarks off in &first 3 levels", "", Kind::Check, kGoesOn, "", Call<&Game::mnuPencilmarksOff>},
-    {PencilmarksDimmed, kOptions, "", "&Dimmed Pencilmarks", "", Kind::Check, kGoesOn, "", Call<&Game::mnuPencilmarksDimmed>},
-    {EraseSudokuTime, kOptions, kErase, "Current &Sudoku", "", Kind::Command, kBegins, "", Call<&Game::mnuEraseSudokuTime>},
-    {EraseLevelTime, kOptions, kErase, "Current &Level", "", Kind::Command, kGoesOn, "", Call<&Game::mnuEraseLevelTime>},
-    {EraseAllTime, kOptions, kErase, "&All Levels", "", Kind::Command, kGoesOn, "", Call<&Game::mnuEraseAllTime>},
-    {OptionsTimer, kOptions, "", "&Timer", "", Kind::Check, kBegins, "", Call<&Game::mnuOptionsTimer>},
-    {OptionsSounds, kOptions, "", "&Sounds", "", Kind::Check, kGoesOn, "", Call<&Game::mnuOptionsSounds>},
-    {OptionsWells, kOptions, "", "&Wells", "", Kind::Check, kGoesOn, "", Call<&Game::mnuOptionsWells>},
-    {OptionsSmallWindow, kOptions, "", "S&mall Hint Window", "", Kind::Check, kGoesOn, "", Call<&Game::mnuOptionsSmallWindow>},
-    {OptionsColors, kOptions, "", "&Hint Colors...", "", Kind::Command, kBegins, "", Call<&Game::mnuOptionsColors>},
-    {AppearanceSystem, kOptions, kAppearance, "As the &System", "", Kind::Radio, kGoesOn, "", ChooseAppearanceEntry<Appearance::AsTheSystem>},
-    {AppearanceLight, kOptions, kAppearance, "&Light", "", Kind::Radio, kGoesOn, "", ChooseAppearanceEntry<Appearance::Light>},
-    {AppearanceDark, kOptions, kAppearance, "&Dark", "", Kind::Radio, kGoesOn, "", ChooseAppearanceEntry<Appearance::Dark>},
-    {HelpContents, kHelp, "", "&Contents...", "F1", Kind::Command, kGoesOn, "", Call<&Game::mnuHelpContents>},
-    {HelpWeb, kHelp, "", "Vemo Software on the &Web...", "", Kind::Command, kGoesOn, "", Call<&Game::mnuHelpWeb>},
-    {HelpRevision, kHelp, "", "&Revision History...", "", Kind::Command, kGoesOn, "", Call<&Game::mnuHelpRevision>},
+    {SudokuNext, kSudoku, "", "&Next", "Ctrl+N", Kind::Command, kGoesOn, Call<&Game::mnuSudokuNext>},
+    {SudokuOpen, kSudoku, "", "&Open...", "Ctrl+O", Kind::Command, kGoesOn, Call<&Game::mnuSudokuOpen>},
+    {SudokuSave, kSudoku, "", "&Save", "Ctrl+S", Kind::Command, kGoesOn, Call<&Game::mnuSudokuSave>},
+    {SudokuMake, kSudoku, "", "&Make", "", Kind::Command, kBegins, Call<&Game::mnuSudokuMake>},
+    {SudokuValidate, kSudoku, "", "&Validate", "", Kind::Command, kGoesOn, Call<&Game::mnuSudokuValidate>},
+    {SudokuCheck, kSudoku, "", "&Check and Import...", "", Kind::Command, kBegins, Call<&Game::mnuSudokuCheck>},
+    {SudokuGenerator, kSudoku, "", "&Generator...", "", Kind::Command, kGoesOn, Call<&Game::mnuSudokuGenerator>},
+    {SudokuPrint, kSudoku, "", "&Print...", "Ctrl+P", Kind::Command, kBegins, Call<&Game::mnuSudokuPrint>},
+    {SudokuExit, kSudoku, "", "E&xit", "Ctrl+Q", Kind::Command, kBegins, Call<&Game::mnuSudokuExit>},
+    {Level1, kLevel, "", "&Easy", "", Kind::Radio, kGoesOn, ChooseLevelEntry<1>},
+    {Level2, kLevel, "", "&Medium", "", Kind::Radio, kGoesOn, ChooseLevelEntry<2>},
+    {Level3, kLevel, "", "&Hard", "", Kind::Radio, kGoesOn, ChooseLevelEntry<3>},
+    {Level4, kLevel, "", "&Crazy", "", Kind::Radio, kGoesOn, ChooseLevelEntry<4>},
+    {Level5, kLevel, "", "&Insane", "", Kind::Radio, kGoesOn, ChooseLevelEntry<5>},
+    {Level6, kLevel, "", "&Kamikaze", "", Kind::Radio, kGoesOn, ChooseLevelEntry<6>},
+    {Level7, kLevel, "", "E&xtreme", "", Kind::Radio, kGoesOn, ChooseLevelEntry<7>},
+    {Level8, kLevel, "", "M&ayhem", "", Kind::Radio, kGoesOn, ChooseLevelEntry<8>},
+    {Level9, kLevel, "", "&Outlaw", "", Kind::Radio, kGoesOn, ChooseLevelEntry<9>},
+    {SolveRestart, kSolve, "", "&Restart", "", Kind::Command, kGoesOn, Call<&Game::mnuSolveRestart>},
+    {SolveUndo, kSolve, "", "&Undo", "Ctrl+Z", Kind::Command, kGoesOn, Call<&Game::mnuSolveUndo>},
+    {SolveRedo, kSolve, "", "Re&do", "Ctrl+Y", Kind::Command, kGoesOn, Call<&Game::mnuSolveRedo>},
+    {SolveResetCell, kSolve, "", "Reset &Cell", "Del", Kind::Command, kGoesOn, Call<&Game::mnuSolveResetCell>},
+    {SolveHint, kSolve, "", "&Hint", "F12", Kind::Command, kBegins, Call<&Game::mnuSolveHint>},
+    {SolveShowMe, kSolve, "", "Show &Me", "", Kind::Command, kGoesOn, Call<&Game::mnuSolveShowMe>},
+    {SolveSolution, kSolve, "", "&Solution", "", Kind::Command, kGoesOn, Call<&Game::mnuSolveSolution>},
+    {SolveManager, kSolve, "", "Solve &Tech Manager...", "", Kind::Command, kBegins, Call<&Game::mnuSolveManager>},
+    {SolveLog, kSolve, "", "&Log...", "", Kind::Command, kGoesOn, Call<&Game::mnuSolveLog>},
+    {SolveAutoSolve, kSolve, "", "&Autosolve", "", Kind::Command, kBegins, Call<&Game::mnuSolveAutoSolve>},
+    {SolveScan, kSolve, "", "Sca&n...", "", Kind::Command, kGoesOn, Call<&Game::mnuSolveScan>},
+    {SolveStop, kSolve, "", "Sto&p Scanning", "", Kind::Command, kGoesOn, Call<&Game::mnuSolveStop>},
+    {PencilmarksMode, kOptions, "", "&Auto Pencilmarks", "", Kind::Check, kGoesOn, Call<&Game::mnuPencilmarksMode>},
+    {PencilmarksOff, kOptions, "", "Pencilmarks off in &first 3 levels", "", Kind::Check, kGoesOn, Call<&Game::mnuPencilmarksOff>},
+    {PencilmarksDimmed, kOptions, "", "&Dimmed Pencilmarks", "", Kind::Check, kGoesOn, Call<&Game::mnuPencilmarksDimmed>},
+    {EraseSudokuTime, kOptions, kErase, "Current &Sudoku", "", Kind::Command, kBegins, Call<&Game::mnuEraseSudokuTime>},
+    {EraseLevelTime, kOptions, kErase, "Current &Level", "", Kind::Command, kGoesOn, Call<&Game::mnuEraseLevelTime>},
+    {EraseAllTime, kOptions, kErase, "&All Levels", "", Kind::Command, kGoesOn, Call<&Game::mnuEraseAllTime>},
+    {OptionsTimer, kOptions, "", "&Timer", "", Kind::Check, kBegins, Call<&Game::mnuOptionsTimer>},
+    {OptionsSounds, kOptions, "", "&Sounds", "", Kind::Check, kGoesOn, Call<&Game::mnuOptionsSounds>},
+    {OptionsWells, kOptions, "", "&Wells", "", Kind::Check, kGoesOn, Call<&Game::mnuOptionsWells>},
+    {OptionsSmallWindow, kOptions, "", "S&mall Hint Window", "", Kind::Check, kGoesOn, Call<&Game::mnuOptionsSmallWindow>},
+    {OptionsColors, kOptions, "", "&Hint Colors...", "", Kind::Command, kBegins, Call<&Game::mnuOptionsColors>},
+    {AppearanceSystem, kOptions, kAppearance, "As the &System", "", Kind::Radio, kGoesOn, ChooseAppearanceEntry<Appearance::AsTheSystem>},
+    {AppearanceLight, kOptions, kAppearance, "&Light", "", Kind::Radio, kGoesOn, ChooseAppearanceEntry<Appearance::Light>},
+    {AppearanceDark, kOptions, kAppearance, "&Dark", "", Kind::Radio, kGoesOn, ChooseAppearanceEntry<Appearance::Dark>},
+    {HelpContents, kHelp, "", "&Contents...", "F1", Kind::Command, kGoesOn, Call<&Game::mnuHelpContents>},
+    {HelpWeb, kHelp, "", "Vemo Software on the &Web...", "", Kind::Command, kGoesOn, Call<&Game::mnuHelpWeb>},
+    {HelpRevision, kHelp, "", "&Revision History...", "", Kind::Command, kGoesOn, Call<&Game::mnuHelpRevision>},
 };
 // clang-format on
 
@@ -218,7 +215,7 @@ std::array<CommandView, kCommands> CommandStates(const Stage& stage) {
     for (const MenuRow& row : kRows) {
         const bool isAvailable =
             stage.session.IsBusy() ? IsOnWhileBusy(row.id) : IsAvailable(row.id, stage);
-        states[static_cast<std::size_t>(row.id)] = {row.handler != nullptr && isAvailable,
+        states[static_cast<std::size_t>(row.id)] = {isAvailable,
                                                     IsTicked(row.id, stage)};
     }
     return states;

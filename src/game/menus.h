@@ -24,8 +24,7 @@ struct MenuRow {
     std::string_view caption;   // "&Next", with its access key marked
     std::string_view shortcut;  // "Ctrl+N", empty where it has none
     MenuRowKind kind;
-    bool beginsGroup;          // a separator stands above it
-    std::string_view toolTip;  // why the entry is off; empty for one that works
+    bool beginsGroup;  // a separator stands above it
     void (*handler)(Game& game);
 };
 

@@ -24,7 +24,6 @@ bool IsKeyOfWindow(CommandId id) {
 
 void SetUp(QAction& action, const MenuRow& row) {
     action.setCheckable(row.kind != MenuRowKind::Command);
-    action.setToolTip(ToQString(row.toolTip));
     action.setMenuRole(QAction::NoRole);
     if (row.shortcut.empty()) {
         return;
@@ -91,7 +90,6 @@ QMenu* MenuBar::MenuNamed(const QString& title, QWidget* parent) {
     }
     auto* owner = qobject_cast<QMenu*>(parent);
     QMenu* menu = owner != nullptr ? owner->addMenu(title) : addMenu(title);
-    menu->setToolTipsVisible(true);
     return menu;
 }
 
