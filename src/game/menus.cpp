@@ -215,8 +215,7 @@ std::array<CommandView, kCommands> CommandStates(const Stage& stage) {
     for (const MenuRow& row : kRows) {
         const bool isAvailable =
             stage.session.IsBusy() ? IsOnWhileBusy(row.id) : IsAvailable(row.id, stage);
-        states[static_cast<std::size_t>(row.id)] = {isAvailable,
-                                                    IsTicked(row.id, stage)};
+        states[static_cast<std::size_t>(row.id)] = {isAvailable, IsTicked(row.id, stage)};
     }
     return states;
 }
