@@ -176,7 +176,7 @@ class FormLogTest final : public QObject {
         Open();
         const QString path = fixture_->data.filePath(u"mine.pdf"_s);
         const QString said =
-            PrintFromPreview([this] { Key(Qt::Key_P, Qt::ControlModifier); }, path);
+            PrintFromPreview([] { Key(Qt::Key_P, Qt::ControlModifier); }, path);
         QVERIFY(said.startsWith(u"Pages printed: "_s));
         QVERIFY(PdfText(path).contains(u"Solve log"_s));
     }
