@@ -175,8 +175,7 @@ class FormLogTest final : public QObject {
         Solve();
         Open();
         const QString path = fixture_->data.filePath(u"mine.pdf"_s);
-        const QString said =
-            PrintFromPreview([] { Key(Qt::Key_P, Qt::ControlModifier); }, path);
+        const QString said = PrintFromPreview([] { Key(Qt::Key_P, Qt::ControlModifier); }, path);
         QVERIFY(said.startsWith(u"Pages printed: "_s));
         QVERIFY(PdfText(path).contains(u"Solve log"_s));
     }
