@@ -8,6 +8,7 @@
 
 int main(int count, char** values) {
     std::ios::sync_with_stdio(false);
+    vemo::UsePlainStreams();
     vemo::ReportClosedPipes();
     vemo::WatchForInterrupts();
     const std::vector<std::string> words(values + (count > 0 ? 1 : 0), values + count);

@@ -1,7 +1,14 @@
-// What a program on the command line asks of the system about its standard streams.
+// What a program asks of the system about its standard streams.
 #pragma once
 
 namespace vemo {
+
+// From now on the standard streams carry bytes as they are, and a console shows them as UTF-8.
+void UsePlainStreams();
+
+// For a program with a window, which some systems start without streams: from now on it writes to
+// the console that it was started from. Streams that lead somewhere stay as they are.
+void UseCallersConsole();
 
 // Standard error is a terminal and standard output is none: progress can be shown without getting
 // between the results.

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/file_pieces.h"
+#include "platform/rename_over.h"
 
 namespace vemo {
 namespace {
@@ -89,7 +90,7 @@ std::optional<FileError> ReplacingFile::Finish() {
         return error_;
     }
     std::error_code error;
-    fs::rename(beside_, target_, error);
+    RenameOver(beside_, target_, error);
     if (error) {
         Fail({path_, "cannot be replaced: " + error.message()});
         return error_;
