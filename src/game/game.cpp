@@ -43,6 +43,11 @@ void Game::FormLoad() {
     Handle([](Stage& stage) { StartUp(stage); });
 }
 
+void Game::FormOpenFile(const std::filesystem::path& path) {
+    collection_.mnuSudokuCheck();
+    collection_.Drop({path});
+}
+
 bool Game::FormQueryUnload() {
     const bool mayQuit = MayQuit(stage_);
     Show();

@@ -88,6 +88,10 @@ Arguments ReadArguments(const QStringList& given) {
     QString aboutPages;  // an option that says how pages look
     for (qsizetype index = 0; index < given.size() && arguments.error.isEmpty(); ++index) {
         const QString& option = given[index];
+        if (!option.startsWith(u'-') && arguments.puzzleFile.isEmpty()) {
+            arguments.puzzleFile = option;
+            continue;
+        }
         if (option == u"--solutions"_s || option == u"--solutions-last"_s) {
             arguments.print.style.solutions =
                 option == u"--solutions"_s ? SolutionPlace::Foot : SolutionPlace::LastPages;
@@ -117,11 +121,12 @@ Arguments ReadArguments(const QStringList& given) {
 }
 
 QString UsageText() {
-    return u"Usage: vemosud2 [--demo FILE.png | --print LEVEL:NUMBERS --output FILE.pdf]\n"
+    return u"Usage: vemosud2 [FILE] [--demo FILE.png | --print LEVEL:NUMBERS --output FILE.pdf]\n"
            u"                [--version] [--help]\n"
            u"\n"
            u"Vemo Sudoku 2, the game in its window.\n"
            u"\n"
+           u"  FILE               begin with the sudokus of this file, of any known format\n"
            u"  --demo FILE.png    open the first Easy sudoku, ask for a hint, write a picture of\n"
            u"                     the window to FILE.png and end; needs no display and changes\n"
            u"                     nothing else\n"

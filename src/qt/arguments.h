@@ -20,6 +20,7 @@ struct Arguments {
     Task task = Task::Play;
     QString demoFile;
     PrintRequest print;
+    QString puzzleFile;  // to begin with; empty: none
     QString error;  // what is wrong; empty for a good command line
 };
 

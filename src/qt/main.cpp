@@ -4,6 +4,7 @@
 
 #include <QApplication>
 
+#include "platform/console.h"
 #include "platform/plain_files.h"
 #include "qt/arguments.h"
 #include "qt/board_accessible.h"
@@ -50,7 +51,7 @@ void KeepPlace(const vemo::MainWindow& window, vemo::SettingsStore& settings) {
     settings.Flush();
 }
 
-int Play() {
+int Play(const QString& puzzleFile) {
     vemo::QtSettings settings;
     vemo::QtFolders folders;
     vemo::PlainFiles files;
@@ -66,6 +67,9 @@ int Play() {
         return kFailure;
     }
     window.show();
+    if (!puzzleFile.isEmpty()) {
+        game.FormOpenFile(puzzleFile.toStdU16String());
+    }
     const int code = QApplication::exec();
     KeepPlace(window, settings);
     // Everything is kept; the toolkit's own end would wait for the sound server.
@@ -92,6 +96,7 @@ int PrintPages(const vemo::PrintRequest& request) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    vemo::UseCallersConsole();
     QStringList given;
     for (int index = 1; index < argc; ++index) {
         given << QString::fromLocal8Bit(argv[index]);
@@ -125,5 +130,5 @@ int main(int argc, char** argv) {
     case Task::Play:
         break;
     }
-    return Play();
+    return Play(arguments.puzzleFile);
 }

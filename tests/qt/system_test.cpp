@@ -78,6 +78,8 @@ class SystemTest final : public QObject {
         const Arguments demo = ReadArguments({u"--demo"_s, u"a.png"_s});
         QVERIFY(demo.task == Arguments::Task::Demo);
         QCOMPARE(demo.demoFile, u"a.png"_s);
+        QCOMPARE(ReadArguments({u"one.sdk"_s}).puzzleFile, u"one.sdk"_s);
+        QVERIFY(ReadArguments({u"one.sdk"_s, u"two.sdk"_s}).error.contains(u"two.sdk"_s));
         QVERIFY(ReadArguments({u"--demo"_s}).error.contains(u"--demo"_s));
         QVERIFY(ReadArguments({u"--dmeo"_s}).error.contains(u"--dmeo"_s));
         QCOMPARE(WhyNoDisplay({}), QString());
