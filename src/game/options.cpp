@@ -14,7 +14,7 @@ constexpr std::string_view kVersion = "Version";
 constexpr std::string_view kSudoku = "Sudoku";
 constexpr std::string_view kColors = "Colors";
 constexpr int kDarkColors = 100;  // added to a color's number for the dark palette
-constexpr long kMaxColor = 0xFFFFFF;
+constexpr std::int64_t kMaxColor = 0xFFFFFF;
 
 struct Switch {
     std::string_view key;
@@ -82,8 +82,8 @@ Options HaalOpties(SettingsStore& store) {
     for (const Switch& row : kSwitches) {
         options.*row.value = ReadBool(store, row.key, options.*row.value);
     }
-    const long appearance = ReadNumber(store, kOptions, "Appearance", 0);
-    if (appearance >= 0 && appearance <= static_cast<long>(Appearance::Dark)) {
+    const std::int64_t appearance = ReadNumber(store, kOptions, "Appearance", 0);
+    if (appearance >= 0 && appearance <= static_cast<std::int64_t>(Appearance::Dark)) {
         options.appearance = static_cast<Appearance>(appearance);
     }
     return options;
@@ -92,7 +92,7 @@ Options HaalOpties(SettingsStore& store) {
 Colors HaalKleuren(SettingsStore& store) {
     Colors colors = BuiltInColors();
     ForEachPalette(colors, [&](const std::string& key, std::uint32_t& color) {
-        const long stored = ReadNumber(store, kColors, key, static_cast<long>(color));
+        const std::int64_t stored = ReadNumber(store, kColors, key, color);
         if (stored >= 0 && stored <= kMaxColor) {
             color = static_cast<std::uint32_t>(stored);
         }
@@ -126,7 +126,7 @@ void SchrijfOptieSudLog(SettingsStore& store) {
 }
 
 int HaalLaatsteLevel(SettingsStore& store) {
-    const long level = ReadNumber(store, kSudoku, "Level", 0);
+    const std::int64_t level = ReadNumber(store, kSudoku, "Level", 0);
     return IsLevel(level) ? static_cast<int>(level) : 0;
 }
 

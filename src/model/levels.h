@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 namespace vemo {
@@ -17,7 +18,7 @@ inline constexpr int kLastSimpleLevel = 3;
 inline constexpr std::array<std::string_view, kLevels> kLevelNames = {
     "Easy", "Medium", "Hard", "Crazy", "Insane", "Kamikaze", "Extreme", "Mayhem", "Outlaw"};
 
-constexpr bool IsLevel(long level) {
+constexpr bool IsLevel(std::int64_t level) {
     return level >= 1 && level <= kLevels;
 }
 constexpr std::string_view LevelName(int level) {

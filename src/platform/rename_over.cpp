@@ -4,7 +4,6 @@
 #ifdef _WIN32
 #include <chrono>
 #include <thread>
-#include <windows.h>
 #endif
 
 namespace vemo {
@@ -19,8 +18,7 @@ constexpr auto kPatience = std::chrono::seconds(2);
 constexpr auto kPause = std::chrono::milliseconds(5);
 
 bool IsHeldByAnother(const std::error_code& error) {
-    return error.value() == ERROR_ACCESS_DENIED || error.value() == ERROR_SHARING_VIOLATION ||
-           error.value() == ERROR_LOCK_VIOLATION;
+    return error == std::errc::permission_denied || error == std::errc::device_or_resource_busy;
 }
 
 }  // namespace

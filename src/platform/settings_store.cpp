@@ -5,10 +5,10 @@
 
 namespace vemo {
 
-long ReadNumber(SettingsStore& store, std::string_view section, std::string_view key,
-                long fallback) {
+std::int64_t ReadNumber(SettingsStore& store, std::string_view section, std::string_view key,
+                        std::int64_t fallback) {
     const std::string text = store.Get(section, key, "");
-    long number = 0;
+    std::int64_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     return error == std::errc() && end == text.data() + text.size() ? number : fallback;
 }

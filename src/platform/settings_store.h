@@ -1,6 +1,7 @@
 // The per-user settings store: strings by section and key.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -23,7 +24,7 @@ class SettingsStore {
 };
 
 // The number that a stored text stands for; `fallback` where it is no whole decimal number.
-long ReadNumber(SettingsStore& store, std::string_view section, std::string_view key,
-                long fallback);
+std::int64_t ReadNumber(SettingsStore& store, std::string_view section, std::string_view key,
+                        std::int64_t fallback);
 
 }  // namespace vemo

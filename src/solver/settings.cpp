@@ -54,8 +54,8 @@ TechniqueSettings ReadTechniqueSettings(SettingsStore& store) {
             slot < kFirstMovableSlot || ReadNumber(store, kSection, KeyOf("OnOff", slot), 1) != 0;
         settings.halt[at] =
             slot <= kLastCheckSlot || ReadNumber(store, kSection, KeyOf("Halt", slot), 0) != 0;
-        const long position = ReadNumber(store, kSection, KeyOf("Order", slot), slot);
-        settings.order[at] = static_cast<int>(std::clamp<long>(position, -1, kSlots));
+        const std::int64_t position = ReadNumber(store, kSection, KeyOf("Order", slot), slot);
+        settings.order[at] = static_cast<int>(std::clamp<std::int64_t>(position, -1, kSlots));
     }
     if (!IsValidOrder(settings.order)) {
         settings.order = TechniqueSettings().order;
