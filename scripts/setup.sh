@@ -37,6 +37,28 @@ imagemagick         pictures of windows
 poppler-utils       reads printed pages back
 parallel            a list spread over two jobs
 '
+kWindows='
+g++-mingw-w64-x86-64-posix  the compiler for Windows
+cmake               the build
+ninja-build         the build
+ccache              a second build in seconds
+libgtest-dev        the tests, as sources
+wine                runs the programs
+wine64              the part of it for programs of 64 bits
+'
+kWindowsGame='
+dpkg-dev            the sources of Qt
+patch               the changes to them
+nsis                the installer
+xvfb                a screen for the window tests
+openbox             without a window manager no window becomes active
+x11-utils           asks whether the window manager runs
+fonts-dejavu-core   in place of the fonts of Windows
+'
+kDebian='
+dpkg-dev            finds what the programs need
+file                knows programs from other files
+'
 
 Packages() { # GROUP...: the names in these groups, one a line
     local group
@@ -45,8 +67,11 @@ Packages() { # GROUP...: the names in these groups, one a line
             game) awk 'NF { print $1 }' <<<"$kGame" ;;
             wayland) awk 'NF { print $1 }' <<<"$kWayland" ;;
             checks) awk 'NF { print $1 }' <<<"$kChecks" ;;
+            debian) awk 'NF { print $1 }' <<<"$kDebian" ;;
+            windows) awk 'NF { print $1 }' <<<"$kWindows" ;;
+            windows_game) awk 'NF { print $1 }' <<<"$kWindowsGame" ;;
             *)
-                echo "setup: there is no group '$group' (game, wayland, checks)" >&2
+                echo "setup: there is no group '$group'" >&2
                 return 2
                 ;;
         esac
