@@ -39,13 +39,13 @@ set(CPACK_PACKAGE_VENDOR "Vemo Sudoku 2 developers")
 set(CPACK_PACKAGE_CONTACT "Vemo Sudoku 2 developers <sudoku@vemo.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Sudoku with hints that explain each step")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-"Vemo Sudoku 2 is a Sudoku game around a logic solver. It finds the next human
-step, names it, explains it and shows it on the board; it rates every puzzle by
-the hardest step that the puzzle needs, and times you against your own best.
-Nine levels of puzzles come with it, and it makes new ones.
+"Vemo Sudoku 2 is a Sudoku game around a logic solver. It finds the next
+human step, names it, explains it and shows it on the board; it rates every
+puzzle by the hardest step that the puzzle needs, and times you against your
+own best. Nine levels of puzzles come with it, and it makes new ones.
 .
-The package holds the command line program vemosud as well, which solves, rates,
-makes and converts lists of puzzles.")
+The package holds the command line program vemosud as well, which solves,
+rates, makes and converts lists of puzzles.")
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://vemo.example/sudoku")
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
