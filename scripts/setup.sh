@@ -53,7 +53,7 @@ nsis                the installer
 xvfb                a screen for the window tests
 openbox             without a window manager no window becomes active
 x11-utils           asks whether the window manager runs
-fonts-dejavu-core   in place of the fonts of Windows
+fonts-liberation    in place of the fonts of Windows
 '
 kDebian='
 dpkg-dev            finds what the programs need

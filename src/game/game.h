@@ -41,7 +41,7 @@ class Game {
     // The window.
     void FormLoad();
     void FormOpenFile(const std::filesystem::path& path);  // a file that the game was started with
-    bool FormQueryUnload();  // answers whether the window may close
+    bool FormQueryUnload();                                // answers whether the window may close
     void FormResize(WindowState state);
     void Timer1();  // every tick of the clock, a few a second
 

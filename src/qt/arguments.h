@@ -21,7 +21,7 @@ struct Arguments {
     QString demoFile;
     PrintRequest print;
     QString puzzleFile;  // to begin with; empty: none
-    QString error;  // what is wrong; empty for a good command line
+    QString error;       // what is wrong; empty for a good command line
 };
 
 // `given` is without the program's name, without what the toolkit takes for itself, and without

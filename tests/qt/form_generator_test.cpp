@@ -43,7 +43,7 @@ class FormGeneratorTest final : public QObject {
     void Open() {
         fixture_->ClickMenu(CommandId::SudokuGenerator);
         form_ = &fixture_->Find<FormGenerator>("FormGenerator");
-        QVERIFY(QTest::qWaitForWindowActive(form_));
+        QVERIFY(WindowFixture::WaitForActive(*form_));
     }
     template <typename Widget>
     Widget& Find(const char* name) const {

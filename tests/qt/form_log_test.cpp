@@ -199,7 +199,7 @@ class FormLogTest final : public QObject {
 
     void Open() const {
         fixture_->ClickMenu(CommandId::SolveLog);
-        QVERIFY(QTest::qWaitForWindowActive(&Log()));
+        QVERIFY(WindowFixture::WaitForActive(Log()));
     }
 
     // Autosolves, in no time.

@@ -268,7 +268,7 @@ class SolveTechTest final : public QObject {
     void Open() {
         fixture_->ClickMenu(CommandId::SolveManager);
         form_ = &fixture_->Find<SolveTechWindow>("SolveTech");
-        QVERIFY(QTest::qWaitForWindowActive(form_));
+        QVERIFY(WindowFixture::WaitForActive(*form_));
     }
     QRadioButton& Option(int position) const {
         return fixture_->Find<QRadioButton>(qPrintable(u"OptionOrder_%1"_s.arg(position)));

@@ -28,10 +28,14 @@ WindowFixture::~WindowFixture() {
     }
 }
 
+bool WindowFixture::WaitForActive(const QWidget& window) {
+    return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
+}
+
 // Without a window manager nobody does it when a box closes.
 void WindowFixture::Activate() {
     window.activateWindow();
-    if (!QTest::qWaitForWindowActive(&window)) {
+    if (!WaitForActive(window)) {
         qFatal("the window does not become active");
     }
 }

@@ -48,6 +48,10 @@ class WindowFixture {
         return *widget;
     }
 
+    // Waits until the keyboard is the window's. The toolkit's own way to wait takes a window of
+    // another one for active as soon as that one is.
+    static bool WaitForActive(const QWidget& window);
+
   private:
     void Activate();
 
