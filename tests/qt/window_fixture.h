@@ -72,6 +72,8 @@ class WindowFixture {
 template <typename Test>
 int RunWindowTests(int argc, char** argv) {
     QStandardPaths::setTestModeEnabled(true);
+    // A test finds its way in the toolkit's dialogs alone.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication::setStyle(new Look);
     InstallBoardAccessibility();
     const QApplication application(argc, argv);
