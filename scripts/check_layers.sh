@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Fails on an #include against the arrows between the folders of src/, on Qt outside src/qt, and on
-# a system's name in a condition outside src/platform and src/qt.
+# what belongs to one system outside src/platform and its implementations with Qt (src/qt/qt_*.cpp,
+# src/qt/windows_*.cpp).
 # Usage: scripts/check_layers.sh [FOLDER]       checks the checkout (or FOLDER, laid out like it)
 #        scripts/check_layers.sh --self-test    proves on a scratch tree that each fault is found
 set -euo pipefail
@@ -32,6 +33,7 @@ FNR == 1 {
     split(FILENAME, parts, "/")
     top = parts[1]
     folder = parts[2]
+    ofSystem = folder == "platform" || FILENAME ~ /^src\/qt\/(qt|windows)_[a-z_]*\.cpp$/
     line = ""
     if (top == "src" && !(folder in known)) { Report("no folder of the table: " folder) }
 }
@@ -55,7 +57,7 @@ text ~ /^[ \t]*#[ \t]*include/ && match(text, /[<"][^>"]*/) {
         Report(folder " may not include " parts[1] ": " name)
     } else if (top == "src" && ours && !(parts[1] in known) && name !~ /\.moc$/) {
         Report("an include that does not begin with a folder of src: " name)
-    } else if (top == "src" && folder !~ /^(platform|qt)$/ && name ~ ENVIRON["kSystemHeaders"]) {
+    } else if (top == "src" && !ofSystem && name ~ ENVIRON["kSystemHeaders"]) {
         Report("a header of one system outside platform: " name)
     }
     next
@@ -63,13 +65,14 @@ text ~ /^[ \t]*#[ \t]*include/ && match(text, /[<"][^>"]*/) {
 
 folder != "qt" && text ~ /(^|[^A-Za-z0-9_])Q_[A-Z]/ { Report("a Qt macro outside the qt folders") }
 
-top == "src" && folder !~ /^(platform|qt)$/ && text ~ /^[ \t]*#[ \t]*(el)?if/ &&
-    text ~ ENVIRON["kSystemMacros"] { Report("a condition on the system outside platform") }
+top == "src" && !ofSystem && text ~ /^[ \t]*#[ \t]*(el)?if/ && text ~ ENVIRON["kSystemMacros"] {
+    Report("a condition on the system outside platform")
+}
 
 END { exit faults }
 '
 kSystemHeaders='^(windows|winsock2|io|unistd|fcntl|termios|pthread|dlfcn|pwd|dirent)[.]h$|^sys/'
-kSystemMacros='WIN32|WIN64|WINDOWS|MINGW|_MSC_VER|CYGWIN|linux|unix|APPLE|__MACH__|BSD|ANDROID'
+kSystemMacros='WIN32|WIN64|WINDOWS|MINGW|_MSC_VER|CYGWIN|linux|unix|APPLE|__MACH__|BSD|ANDROID|Q_OS_'
 
 CheckTree() { # FOLDER
     local sources
@@ -98,7 +101,9 @@ WriteCleanTree() {
     Write src/tools/text.cpp '#include <queue>' '#include "solver/solver.h"' '#ifdef NDEBUG'
     Write src/game/game.cpp '#include "tools/text.h"' '// Q_OBJECT is for others'
     Write src/cli/main.cpp '#include "tools/text.h"' '#include "cli/solve.h"'
-    Write src/qt/grid.cpp '#include <QWidget>' '#include "game/game.h"' 'Q_OBJECT' '#ifdef __linux__'
+    Write src/qt/grid.cpp '#include <QWidget>' '#include "game/game.h"' 'Q_OBJECT'
+    Write src/qt/qt_store.cpp '#include <QSettings>' '#ifdef Q_OS_WIN'
+    Write src/qt/windows_bell.cpp '#include <windows.h>'
     Write src/qt/window.cpp '#include "window.moc"'
     Write tests/qt/test_window.cpp '#include <QtTest>' 'Q_OBJECT'
     Write tests/solver/test_solver.cpp '#include "game/game.h"' '#include "support.h"'
@@ -158,6 +163,9 @@ SelfTest() {
     ExpectFault 'a condition on the system' src/tools/a.cpp '#if defined(__linux__)'
     ExpectFault 'a condition on the system' src/cli/a.cpp '#if 0' '#elif defined(__APPLE__)'
     ExpectFault 'a condition on the system' src/game/a.cpp '#if defined(A) || \' '    defined(_WIN64)'
+    ExpectFault 'a condition on the system' src/qt/a.cpp '#ifdef Q_OS_LINUX'
+    ExpectFault 'a condition on the system' src/qt/qt_store.h '#ifdef _WIN32'
+    ExpectFault 'a header of one system' src/qt/a.cpp '#include <windows.h>'
     ExpectFault 'a header of one system' src/cli/a.cpp '#include <unistd.h>'
     ExpectFault 'a header of one system' src/tools/a.cpp '#include <sys/stat.h>'
     echo "self-test: $cases faults planted, $failures failures"

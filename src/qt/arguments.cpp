@@ -70,17 +70,6 @@ constexpr ValueOption kValueOptions[] = {
     {u"--paper", u"a word: a4 or letter", TakePaper, true},
 };
 
-#ifdef Q_OS_LINUX
-bool IsPlatformChosen(const QStringList& given) {
-    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        return true;
-    }
-    const char* const options[] = {"-platform", "--platform", "-display", "--display"};
-    return std::ranges::any_of(
-        options, [&given](const char* option) { return given.contains(QLatin1String(option)); });
-}
-#endif
-
 }  // namespace
 
 Arguments ReadArguments(const QStringList& given) {
@@ -151,35 +140,6 @@ QString VersionText() {
 
 bool NeedsNoDisplay(const QStringList& given) {
     return given.contains(u"--demo"_s) || given.contains(u"--print"_s);
-}
-
-QByteArray PlatformFor(const QStringList& given) {
-#ifdef Q_OS_LINUX
-    const bool isWithout = given.contains(u"--print"_s) || !WhyNoDisplay(given).isEmpty();
-    if (NeedsNoDisplay(given) && isWithout && !IsPlatformChosen(given)) {
-        return "offscreen";
-    }
-#else
-    Q_UNUSED(given)
-#endif
-    return {};
-}
-
-QString WhyNoDisplay(const QStringList& given) {
-#ifdef Q_OS_LINUX
-    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY"}) {
-        if (!qEnvironmentVariableIsEmpty(variable)) {
-            return {};
-        }
-    }
-    return IsPlatformChosen(given)
-               ? QString()
-               : u"there is no display to open the window on: neither DISPLAY nor "
-                 u"WAYLAND_DISPLAY is set."_s;
-#else
-    Q_UNUSED(given)
-    return {};
-#endif
 }
 
 }  // namespace vemo

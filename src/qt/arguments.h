@@ -33,12 +33,5 @@ QString VersionText();
 
 // The task opens no window that anybody is to see.
 bool NeedsNoDisplay(const QStringList& given);
-// The toolkit's platform for this command line; empty where the choice is its own, or the user's. A
-// print does not even touch a display that is there.
-QByteArray PlatformFor(const QStringList& given);
-
-// Why no window can be opened here, as a sentence; empty where one can. The toolkit itself would
-// only abort. `given` is the whole command line without the program's name.
-QString WhyNoDisplay(const QStringList& given);
 
 }  // namespace vemo

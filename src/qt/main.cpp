@@ -9,6 +9,7 @@
 #include "qt/arguments.h"
 #include "qt/board_accessible.h"
 #include "qt/demo.h"
+#include "qt/display.h"
 #include "qt/look.h"
 #include "qt/main_window.h"
 #include "qt/make_sounds.h"

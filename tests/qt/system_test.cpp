@@ -1,8 +1,10 @@
 // The program's dealings with the system: settings, wave files, its command line.
 #include <QFile>
+#include <QRegularExpression>
 
 #include "qt/arguments.h"
 #include "qt/demo.h"
+#include "qt/display.h"
 #include "qt/qt_settings.h"
 #include "qt/wave.h"
 #include "qt/window_fixture.h"
@@ -82,27 +84,42 @@ class SystemTest final : public QObject {
         QVERIFY(ReadArguments({u"one.sdk"_s, u"two.sdk"_s}).error.contains(u"two.sdk"_s));
         QVERIFY(ReadArguments({u"--demo"_s}).error.contains(u"--demo"_s));
         QVERIFY(ReadArguments({u"--dmeo"_s}).error.contains(u"--dmeo"_s));
+    }
+
+    void TheManualPageNamesEveryOption() {
+        QFile page(QStringLiteral(VEMO_TEST_DATA "/../../packaging/debian/vemosud2.6"));
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(page.readAll()).replace(u"\\-"_s, u"-"_s);
+        auto options = QRegularExpression(u"--[a-z-]+"_s).globalMatch(UsageText());
+        QVERIFY(options.hasNext());
+        while (options.hasNext()) {
+            const QString option = options.next().captured();
+            QVERIFY2(text.contains(option), qPrintable(option));
+        }
+    }
+
+    void ADisplayIsLookedForInTheEnvironment() {
+        QCOMPARE(WhyNoDisplay({u"-platform"_s, u"offscreen"_s}), QString());
+        QVERIFY(!NeedsNoDisplay({}));
+        if (QSysInfo::kernelType() == u"winnt"_s) {
+            QSKIP("every program of this system has a display");
+        }
         QCOMPARE(WhyNoDisplay({}), QString());
         for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
             qunsetenv(variable);
         }
-#ifdef Q_OS_LINUX
         QVERIFY(WhyNoDisplay({}).contains(u"DISPLAY"_s));
-        QVERIFY(!NeedsNoDisplay({}));
+        QCOMPARE(WhyNoDisplay({u"-platform"_s, u"offscreen"_s}), QString());
         QCOMPARE(PlatformFor({u"--demo"_s, u"a.png"_s}), "offscreen");
         qputenv("DISPLAY", ":0");
         QCOMPARE(PlatformFor({u"--demo"_s, u"a.png"_s}), "");
         QCOMPARE(PlatformFor({u"--print"_s, u"Easy:1"_s}), "offscreen");
         QCOMPARE(PlatformFor({u"--print"_s, u"Easy:1"_s, u"-platform"_s, u"xcb"_s}), "");
         qunsetenv("DISPLAY");
-#endif
-        QCOMPARE(WhyNoDisplay({u"-platform"_s, u"offscreen"_s}), QString());
     }
 
   private:
-    QString In(const QString& name) const {
-        return folder_.filePath(name);
-    }
+    QString In(const QString& name) const { return folder_.filePath(name); }
 
     QTemporaryDir folder_;
 };
