@@ -35,7 +35,8 @@ void TableExport::Run(const std::stop_token& stop) {
         }
         text += WriteExport(format_, Grid::FromClues(*clues));
         if (text.size() >= kPieceLength) {
-            failure_ = file.Write(BytesOf(std::exchange(text, {})));
+            failure_ = file.Write(BytesOf(text));
+            text.clear();
         }
         written_ = at + 1;
     }
