@@ -26,6 +26,7 @@ libgtest-dev        the tests
 libbenchmark-dev    the benchmarks
 clang-14            the second compiler
 libclang-rt-14-dev  its fuzzer and sanitizers
+lld-14              its quicker linker
 clang-format-14     the format check
 git                 the list of the files to check
 xvfb                a screen for tests with real clicks
