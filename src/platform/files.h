@@ -13,9 +13,9 @@ namespace vemo {
 
 using Bytes = std::vector<std::uint8_t>;
 
-// A path as a text for the player: UTF-8 on every system.
-inline std::string Utf8(const std::filesystem::path& path) {
-    const std::u8string text = path.u8string();
+// A path as a text for the player: UTF-8 on every system, with the separators that are usual there.
+inline std::string Utf8(std::filesystem::path path) {
+    const std::u8string text = path.make_preferred().u8string();
     return {text.begin(), text.end()};
 }
 
