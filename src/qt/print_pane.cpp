@@ -174,6 +174,10 @@ void PrintPane::ZoomBy(int steps) {
 }
 
 void PrintPane::Print() {
+    if (const QString reason = WhyNoPrinter(); !reason.isEmpty()) {
+        Tell(reason, NoteKind::Warning);
+        return;
+    }
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setPageLayout(WholePaper(printout_.paper));
     if (AskPrinter(*printer, printout_.name, printout_.pages, this)) {

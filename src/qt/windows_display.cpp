@@ -1,4 +1,4 @@
-// The display of a system that gives one to every program.
+// The display of Windows, which every program has.
 #include "qt/display.h"
 
 namespace vemo {
