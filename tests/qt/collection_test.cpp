@@ -73,7 +73,7 @@ class CollectionWindowTest final : public QObject {
         fixture_ = std::make_unique<WindowFixture>();
         fixture_->ClickMenu(CommandId::SudokuCheck);
         form_ = &fixture_->Find<FormCollection>("FormCollection");
-        QVERIFY(QTest::qWaitForWindowActive(form_));
+        QVERIFY(WindowFixture::WaitForActive(*form_));
     }
     void cleanup() { fixture_.reset(); }
 

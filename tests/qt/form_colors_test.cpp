@@ -36,7 +36,7 @@ class FormColorsTest final : public QObject {
     void Open() {
         fixture_->ClickMenu(CommandId::OptionsColors);
         form_ = &fixture_->Find<FormColors>("FormColors");
-        QVERIFY(QTest::qWaitForWindowActive(form_));
+        QVERIFY(WindowFixture::WaitForActive(*form_));
     }
     template <typename Widget>
     Widget& Find(const char* name) const {

@@ -115,7 +115,7 @@ void FormGeneratorTest::ASearchIsStartedWatchedAndPlayedFromTheKeyboard() {
     Press(Qt::Key_Down);
     QVERIFY(described() != first);
     Press(Qt::Key_Return);
-    QVERIFY(QTest::qWaitForWindowActive(&fixture_->window));
+    QVERIFY(WindowFixture::WaitForActive(fixture_->window));
     QCOMPARE(fixture_->game.CurrentSession().number, State().Made()[1].number);
     const QModelIndex third = List().model()->index(2, 0);
     QTest::mouseClick(List().viewport(), Qt::LeftButton, {}, List().visualRect(third).center());

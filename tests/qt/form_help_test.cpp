@@ -28,7 +28,7 @@ class FormHelpTest final : public QObject {
     void TheMenuOpensTheFirstPageAndF1TheOneForWhatIsInFront() {
         fixture_->OpenFirstEasy();
         fixture_->ClickMenu(CommandId::HelpContents);
-        QVERIFY(QTest::qWaitForWindowActive(&Help()));
+        QVERIFY(WindowFixture::WaitForActive(Help()));
         QCOMPARE(Text().Page(), u"index.html"_s);
         QVERIFY(Text().toPlainText().contains(u"If you have never solved a sudoku"_s));
         Key(Qt::Key_Escape);
@@ -52,7 +52,7 @@ class FormHelpTest final : public QObject {
     void F1InAnotherWindowOpensThatWindowsPage() {
         fixture_->game.mnuSolveManager();
         auto& manager = fixture_->Find<QWidget>("SolveTech");
-        QVERIFY(QTest::qWaitForWindowActive(&manager));
+        QVERIFY(WindowFixture::WaitForActive(manager));
         QTest::keyClick(&manager, Qt::Key_F1);
         QCOMPARE(Text().Page(), u"technique-manager.html"_s);
     }
@@ -173,7 +173,7 @@ class FormHelpTest final : public QObject {
         fixture_->game.mnuHelpContents();
         auto& help = static_cast<FormHelp&>(Help());
         help.ShowPage(page);
-        QTRY_VERIFY(help.isActiveWindow());
+        QVERIFY(WindowFixture::WaitForActive(help));
         Text().setFocus();
     }
     static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {

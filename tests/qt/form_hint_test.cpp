@@ -186,9 +186,7 @@ class FormHintTest final : public QObject {
     }
 
     void ItIsPrinted() {
-        if (QGuiApplication::platformName() == u"windows"_s) {
-            QSKIP("the system asks for its printer itself");
-        }
+        VEMO_NEED_PRINTED_PAGES()
         Open();
         const auto print = [this](const QString& path, QDialog::DialogCode code) {
             return PrintFromPreview([this] { Press(Qt::Key_P); }, path, code);

@@ -94,11 +94,12 @@ void FormPrintTest::TheSudokuInPlayIsSeenAndSaved() {
     QVERIFY(!Find<QRadioButton>("OptionSelection").isVisible());
     const QString path = In(u"mine"_s);
     SaveAs(path);
-    QTRY_COMPARE(Said(), u"Saved: %1.pdf"_s.arg(path));
-    QCOMPARE(PdfPages(path + u".pdf"_s), 1);
-    QVERIFY(PdfText(path + u".pdf"_s).contains(u"Easy 1"_s));
+    QTRY_COMPARE(Said(), u"Saved: %1.pdf"_s.arg(QDir::toNativeSeparators(path)));
     QTest::keyClick(form_, Qt::Key_Escape);
     QVERIFY(!form_->isVisible());
+    VEMO_NEED_PRINTED_PAGES()
+    QCOMPARE(PdfPages(path + u".pdf"_s), 1);
+    QVERIFY(PdfText(path + u".pdf"_s).contains(u"Easy 1"_s));
 }
 
 void FormPrintTest::ARunIsOrderedWithTheKeyboardAndLeafedThrough() {
@@ -183,6 +184,7 @@ void FormPrintTest::ALongRunIsWatchedAndStopped() {
     QVERIFY(old.open(QIODevice::ReadOnly));
     QCOMPARE(old.readAll(), "old");
 
+    VEMO_NEED_PRINTED_PAGES()
     const QString whole = In(u"whole.pdf"_s);
     ChoosePrinterFile(whole, QDialog::Accepted);
     Button("CommandPrint").click();
@@ -201,6 +203,7 @@ void FormPrintTest::WhatCannotBePrintedIsSaid() {
     QVERIFY(Said().startsWith(u"The first number"_s));
     Find<QSpinBox>("SpinLast").setValue(3);
     QCOMPARE(Said(), QString());
+    VEMO_NEED_PRINTED_PAGES()
     const QString nowhere = In(u"no folder/mine.pdf"_s);
     ChoosePrinterFile(nowhere, QDialog::Accepted);
     Button("CommandPrint").click();
@@ -243,6 +246,7 @@ void FormPrintTest::TheCommandLineWritesTheSamePages() {
                                                  u"4"_s, u"--solutions"_s, u"--output"_s, path});
     QCOMPARE(outcome.error, QString());
     QCOMPARE(outcome.pages, 1);
+    VEMO_NEED_PRINTED_PAGES()
     QCOMPARE(PdfPages(path), 1);
     const QString text = PdfText(path);
     for (const char* caption : {"Easy 1", "Easy 4"}) {
@@ -290,6 +294,7 @@ void FormPrintTest::TheCommandLineLosesNothing() {
     }
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), "kept");
+    file.close();
 
     // A damaged sudoku is named, the others are printed.
     const std::filesystem::path easy =
@@ -297,10 +302,13 @@ void FormPrintTest::TheCommandLineLosesNothing() {
     fixture_->files.WriteAt(easy, kPuzzleRecordSize, Bytes(9, 12));
     const PrintOutcome outcome = PrintByCommand({u"--print"_s, u"Easy:1-3"_s, u"--output"_s, path});
     QCOMPARE(outcome.notice, u"Left out, because damaged: Easy 2."_s);
-    QVERIFY(!PdfText(path).contains(u"Easy 2"_s));
     // Whoever has no such level yet prints the shipped one.
     std::filesystem::remove(easy);
-    QCOMPARE(PrintByCommand({u"--print"_s, u"Easy:2"_s, u"--output"_s, path}).notice, QString());
+    const QString second = In(u"second.pdf"_s);
+    QCOMPARE(PrintByCommand({u"--print"_s, u"Easy:2"_s, u"--output"_s, second}).notice, QString());
+    VEMO_NEED_PRINTED_PAGES()
+    QVERIFY(!PdfText(path).contains(u"Easy 2"_s));
+    QVERIFY(PdfText(second).contains(u"Easy 2"_s));
 }
 
 void FormPrintTest::EverythingCanBeReachedInASmallWindow_data() {

@@ -203,7 +203,7 @@ class SolveTechTest final : public QObject {
             QCOMPARE(Stored("OnOff30"), QString::number(way % 2));
             QCOMPARE(Stored("Order8"), QString::number(position));
             fixture_->window.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&fixture_->window));
+            QVERIFY(WindowFixture::WaitForActive(fixture_->window));
             Open();
             QCOMPARE(Box(30).isChecked(), way % 2 == 1);
             QCOMPARE(FocusName(), u"OptionOrder_%1"_s.arg(position));
