@@ -11,6 +11,8 @@ fi
 
 # A precompiled header is found again in the cache by what is in it.
 export CCACHE_SLOPPINESS=pch_defines,time_macros
+# The compiler lists what it reads: a first build does not run the preprocessor twice.
+export CCACHE_DEPEND=1
 
 Fail() { # MESSAGE
     echo "$program: $1" >&2
