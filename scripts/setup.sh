@@ -15,7 +15,6 @@ ninja-build         the build
 ccache              a second build in seconds
 qt6-base-dev        the window, printing; with it the xcb and offscreen platforms
 qt6-multimedia-dev  the sounds
-libqt6svg6          the icons: a plug-in, which nothing else asks for
 fonts-dejavu-core   a font, where the machine has none
 '
 kWayland='
