@@ -155,11 +155,9 @@ class Game {
     void CommandKeepColors();
     void CommandCancelColors();
 
-    // Printing. Any of the controls for the order; what another window has selected, to be opened
-    // in the window "Print"; where to save pages; and a finished file of them, which answers
-    // whether it could be put there.
+    // Printing. Any of the controls for the order; where to save pages; and a finished file of
+    // them, which answers whether it could be put there.
     void PrintChange(const PrintOrder& order);
-    void PrintSudokus(std::vector<PrintedSudoku> sudokus, const std::string& name);
     std::optional<std::filesystem::path> AskPdfFile(const std::string& name);
     bool StorePdf(const std::filesystem::path& path, std::span<const std::uint8_t> bytes);
     // Of all that is printed, in the window "Print" or in another's preview.

@@ -1,7 +1,5 @@
 // The events of the generator's window and of the one that prints. These live beside the game's
 // long functions.
-#include <utility>
-
 #include "game/game.h"
 
 namespace vemo {
@@ -46,11 +44,6 @@ void Game::GeneratorTick() {
 
 void Game::PrintChange(const PrintOrder& order) {
     stage_.print.Change(stage_, order);
-    Show();
-}
-
-void Game::PrintSudokus(std::vector<PrintedSudoku> sudokus, const std::string& name) {
-    PrintSelection(stage_, std::move(sudokus), name);
     Show();
 }
 

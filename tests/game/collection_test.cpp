@@ -348,6 +348,7 @@ TEST_F(CollectionTest, TheChosenSudokusArePrinted) {
     Commands().Select({{0, 1}, {2, 1}}, 0);
     Commands().CommandPrint();
     EXPECT_EQ(view.opened.back(), Form::FormPrint);
+    EXPECT_EQ(game->CurrentPrint().Order().source, PrintSource::Selection);
     const std::vector<PrintedSudoku>& printed = game->CurrentPrint().Job().sudokus;
     ASSERT_EQ(printed.size(), 2u);
     EXPECT_EQ(WriteGrid81(printed[0].clues), kEasy);

@@ -382,14 +382,6 @@ TEST_F(PrintWindowTest, ASudokuThatIsBeingMadeHasNoSolutionYet) {
     EXPECT_TRUE(Window().Notice().starts_with("Sudokus without a known solution: 1."));
 }
 
-TEST_F(PrintWindowTest, AnotherWindowsSelectionIsPrinted) {
-    game->PrintSudokus({PrintedFrom(Timed(0), 5, 0), PrintedFrom(Timed(0), 6, 0)}, "Found");
-    EXPECT_EQ(view.opened, std::vector{Form::FormPrint});
-    EXPECT_EQ(Window().Order().source, PrintSource::Selection);
-    EXPECT_EQ(Window().Name(), "Found");
-    EXPECT_EQ(Window().Job().sudokus.size(), 2u);
-}
-
 TEST_F(PrintWindowTest, TheLookOfThePagesIsRememberedAndMalformedSettingsReadAsDefaults) {
     game->mnuSudokuPrint();
     PrintOrder order = Window().Order();
