@@ -24,6 +24,7 @@
 #include "qt/collection_table.h"
 #include "qt/form_collection.h"
 #include "qt/layout_dialog.h"
+#include "qt/window_checks.h"
 #include "qt/window_fixture.h"
 #include "support/puzzles.h"
 #include "tools/dig.h"
@@ -354,19 +355,13 @@ void CollectionWindowTest::ASudokuOfALevelIsPlayed() {
 }
 
 void CollectionWindowTest::EverythingCanBeReachedInASmallWindow_data() {
-    QTest::addColumn<double>("text");
-    QTest::newRow("usual text") << 1.0;
-    QTest::newRow("large text") << 2.0;
+    AddTextSizes();
 }
 
 void CollectionWindowTest::EverythingCanBeReachedInASmallWindow() {
     QFETCH(double, text);
-    const QFont system = QApplication::font();
-    const auto restore = qScopeGuard([&system] { QApplication::setFont(system); });
-    QFont font = system;
-    font.setPointSizeF(system.pointSizeF() * text);
     fixture_.reset();
-    QApplication::setFont(font);
+    const TextSize size(text);
     init();
     form_->resize(480, 480);
     QCoreApplication::processEvents();
@@ -375,16 +370,13 @@ void CollectionWindowTest::EverythingCanBeReachedInASmallWindow() {
     QCoreApplication::processEvents();
     auto& area = *form_->findChild<QScrollArea*>();
     QCOMPARE(area.horizontalScrollBar()->maximum(), 0);
-    const auto isWithin = [](const QWidget& outer, const QWidget& inner) {
-        return outer.rect().contains(QRect(inner.mapTo(&outer, QPoint()), inner.size()));
-    };
-    QVERIFY(isWithin(*form_, Button("CommandCancelJob")));
+    QVERIFY(IsWithin(*form_, Button("CommandCancelJob")));
     for (const char* name : {"CommandOpenFile", "ComboKind", "CheckLevel9", "SpinMostClues",
                              "CommandExport", "CommandSolve"}) {
         const QRect place = Find<QWidget>(name).rect();
         const QPoint middle = Find<QWidget>(name).mapTo(area.widget(), place.center());
         area.ensureVisible(middle.x(), middle.y(), 0, place.height());
-        QVERIFY2(isWithin(*area.viewport(), Find<QWidget>(name)), name);
+        QVERIFY2(IsWithin(*area.viewport(), Find<QWidget>(name)), name);
     }
 }
 

@@ -1,7 +1,6 @@
 // The window of the generator, by mouse and by keyboard.
 #include "qt/form_generator.h"
 
-#include <QAccessible>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
@@ -13,6 +12,7 @@
 #include <QTableView>
 #include <QWheelEvent>
 
+#include "qt/window_checks.h"
 #include "qt/window_fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -35,7 +35,6 @@ class FormGeneratorTest final : public QObject {
     void QuittingBringsTheWindowToTheFront();
     void WhatIsNotStoredCanBeStoredAgain();
     void TheWheelScrollsInsteadOfChangingTheOrder();
-    void EveryControlHasAName();
     void EverythingCanBeReachedInASmallWindow_data();
     void EverythingCanBeReachedInASmallWindow();
 
@@ -173,41 +172,22 @@ void FormGeneratorTest::TheWheelScrollsInsteadOfChangingTheOrder() {
     QCOMPARE(Wanted(3).value(), 4);
 }
 
-void FormGeneratorTest::EveryControlHasAName() {
-    for (QWidget* control : form_->findChildren<QWidget*>()) {
-        const bool isStop = (control->focusPolicy() & Qt::TabFocus) != 0 && !control->focusProxy();
-        if (control->isVisible() && isStop) {
-            QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(control);
-            QVERIFY2(!seen->text(QAccessible::Name).isEmpty(), qPrintable(control->objectName()));
-        }
-    }
-}
-
 void FormGeneratorTest::EverythingCanBeReachedInASmallWindow_data() {
-    QTest::addColumn<double>("text");
-    QTest::newRow("usual text") << 1.0;
-    QTest::newRow("large text") << 2.0;
+    AddTextSizes();
 }
 
 void FormGeneratorTest::EverythingCanBeReachedInASmallWindow() {
     QFETCH(double, text);
-    const QFont system = QApplication::font();
-    const auto restore = qScopeGuard([&system] { QApplication::setFont(system); });
-    QFont font = system;
-    font.setPointSizeF(system.pointSizeF() * text);
     fixture_.reset();
-    QApplication::setFont(font);
+    const TextSize size(text);
     init();
     form_->resize(480, 480);
     QCoreApplication::processEvents();
     QCOMPARE(form_->size(), QSize(480, 480));
     auto& area = *form_->findChild<QScrollArea*>();
     QVERIFY(area.viewport()->height() >= 100);
-    const auto isWithin = [](const QWidget& outer, const QWidget& inner) {
-        return outer.rect().contains(QRect(inner.mapTo(&outer, QPoint()), inner.size()));
-    };
     for (const char* name : {"CommandStart", "CommandStopSearch", "LabelMessage"}) {
-        QVERIFY2(isWithin(*form_, Find<QWidget>(name)), name);
+        QVERIFY2(IsWithin(*form_, Find<QWidget>(name)), name);
     }
     QCOMPARE(area.horizontalScrollBar()->maximum(), 0);
     for (const char* name :
@@ -215,7 +195,7 @@ void FormGeneratorTest::EverythingCanBeReachedInASmallWindow() {
         const QRect place = Find<QWidget>(name).rect();
         const QPoint middle = Find<QWidget>(name).mapTo(area.widget(), place.center());
         area.ensureVisible(middle.x(), middle.y(), 0, place.height());
-        QVERIFY2(isWithin(*area.viewport(), Find<QWidget>(name)), name);
+        QVERIFY2(IsWithin(*area.viewport(), Find<QWidget>(name)), name);
     }
 }
 

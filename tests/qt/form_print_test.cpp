@@ -14,6 +14,7 @@
 #include "qt/page_view.h"
 #include "qt/print_command.h"
 #include "qt/print_support.h"
+#include "qt/window_checks.h"
 #include "qt/window_fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -312,33 +313,24 @@ void FormPrintTest::TheCommandLineLosesNothing() {
 }
 
 void FormPrintTest::EverythingCanBeReachedInASmallWindow_data() {
-    QTest::addColumn<double>("text");
-    QTest::newRow("usual text") << 1.0;
-    QTest::newRow("large text") << 2.0;
+    AddTextSizes();
 }
 
 void FormPrintTest::EverythingCanBeReachedInASmallWindow() {
     QFETCH(double, text);
-    const QFont system = QApplication::font();
-    const auto restore = qScopeGuard([&system] { QApplication::setFont(system); });
-    QFont font = system;
-    font.setPointSizeF(system.pointSizeF() * text);
     fixture_.reset();
-    QApplication::setFont(font);
+    const TextSize size(text);
     init();
     Open();
     form_->resize(480, 560);
     QCoreApplication::processEvents();
-    const auto isWithin = [](const QWidget& outer, const QWidget& inner) {
-        return outer.rect().contains(QRect(inner.mapTo(&outer, QPoint()), inner.size()));
-    };
     for (const char* name : {"CommandPrint", "CommandSavePdf", "CommandNext", "ComboZoom"}) {
-        QVERIFY2(isWithin(*form_, Find<QWidget>(name)), name);
+        QVERIFY2(IsWithin(*form_, Find<QWidget>(name)), name);
     }
     auto& area = *form_->findChild<QScrollArea*>();
     for (const char* name : {"OptionCurrent", "SpinLast", "ComboContent", "ComboPaper"}) {
         area.ensureWidgetVisible(&Find<QWidget>(name));
-        QVERIFY2(isWithin(*area.viewport(), Find<QWidget>(name)), name);
+        QVERIFY2(IsWithin(*area.viewport(), Find<QWidget>(name)), name);
     }
 }
 

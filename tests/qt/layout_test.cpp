@@ -36,11 +36,7 @@ class LayoutTest final : public QObject {
     void EverythingHasItsRoom() {
         QFETCH(QSize, size);
         QFETCH(double, text);
-        const QFont system = QApplication::font();
-        const auto restore = qScopeGuard([&system] { QApplication::setFont(system); });
-        QFont font = system;
-        font.setPointSizeF(system.pointSizeF() * text);
-        QApplication::setFont(font);
+        const TextSize textSize(text);
         WindowFixture fixture;
         fixture.window.resize(size);
         QCOMPARE(fixture.window.size(), size);

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QAccessible>
+#include <QApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -175,6 +176,26 @@ QStringList EntriesWithoutLetter(QWidget& window) {
         CheckLetters(bar->actions(), QString(), found);
     }
     return found;
+}
+
+bool IsWithin(const QWidget& outer, const QWidget& inner) {
+    return outer.rect().contains(QRect(inner.mapTo(&outer, QPoint()), inner.size()));
+}
+
+void AddTextSizes() {
+    QTest::addColumn<double>("text");
+    QTest::newRow("usual text") << 1.0;
+    QTest::newRow("large text") << 2.0;
+}
+
+TextSize::TextSize(double size) : usual_(QApplication::font()) {
+    QFont font = usual_;
+    font.setPointSizeF(usual_.pointSizeF() * size);
+    QApplication::setFont(font);
+}
+
+TextSize::~TextSize() {
+    QApplication::setFont(usual_);
 }
 
 }  // namespace vemo::test

@@ -2,6 +2,7 @@
 // line a fault.
 #pragma once
 
+#include <QFont>
 #include <QStringList>
 #include <QWidget>
 
@@ -18,5 +19,23 @@ QStringList CutTexts(QWidget& parent);
 QStringList OutOfTabsReach(QWidget& window);
 // Menu entries without a letter of their own to press, and letters that two of them share.
 QStringList EntriesWithoutLetter(QWidget& window);
+
+// `outer` stands above `inner` and shows all of it, as far as both are concerned.
+bool IsWithin(const QWidget& outer, const QWidget& inner);
+
+// Rows with the usual text and with text twice as large, in the column "text".
+void AddTextSizes();
+// Every text that is made meanwhile has this size, 1 being the usual one.
+class TextSize {
+  public:
+    explicit TextSize(double size);
+    ~TextSize();
+
+    TextSize(const TextSize&) = delete;
+    TextSize& operator=(const TextSize&) = delete;
+
+  private:
+    QFont usual_;
+};
 
 }  // namespace vemo::test
