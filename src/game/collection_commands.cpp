@@ -7,6 +7,8 @@
 #include "game/collection_texts.h"
 #include "game/play_levels.h"
 #include "game/print_window.h"
+#include "tools/puzzle_export.h"
+#include "tools/puzzle_table.h"
 
 namespace vemo {
 namespace {

@@ -1,6 +1,7 @@
 // Importing the puzzles of the collection window into the level files.
 #include <utility>
 
+#include "game/collection_runs.h"
 #include "game/collection_texts.h"
 #include "game/collection_window.h"
 #include "tools/threads.h"
@@ -20,7 +21,7 @@ void CollectionWindow::BeginImport() {
         End("Stopped: nothing was imported.");
         return;
     }
-    if (!stored_->AreReady()) {
+    if (!runs_->stored->AreReady()) {
         return;
     }
     begin_ = Clock::now();
@@ -28,11 +29,11 @@ void CollectionWindow::BeginImport() {
     task.rates = true;
     task.signs = true;
     task.ladder = BatchLadder(techniques_);
-    work_ = std::make_unique<TableWork>(*table_, std::move(importing_), std::move(task),
-                                        DefaultThreads());
+    runs_->work = std::make_unique<TableWork>(*table_, std::move(runs_->importing), std::move(task),
+                                              DefaultThreads());
 }
 
-void CollectionWindow::Store(const TableWork::Result& result) {
+void CollectionWindow::Store(const TableResult& result) {
     const std::string name = "Sudoku " + NumberOf(result.row);
     if (!result.solutions.IsUnique()) {
         ++counts_.discarded;
@@ -40,7 +41,7 @@ void CollectionWindow::Store(const TableWork::Result& result) {
         return;
     }
     TableRow& row = table_->Row(result.row);
-    if (const auto known = stored_->Find(result.signs.form)) {
+    if (const auto known = runs_->stored->Find(result.signs.form)) {
         ++counts_.known;
         row.SetStored(known->level, static_cast<std::uint32_t>(known->number));
         log_.ReportLine(name + " is there already: " + PlaceText(*known));
@@ -50,14 +51,14 @@ void CollectionWindow::Store(const TableWork::Result& result) {
     const auto saved =
         files_.SaveSudoku(rated.rating, {rated.puzzle.clues, result.solutions.first, {}});
     if (saved.error) {
-        work_->Stop();
+        runs_->work->Stop();
         Fail(Utf8(saved.error->path) + ": " + saved.error->reason +
              ". Sudokus imported before: " + Grouped(counts_.stored) + ".");
         return;
     }
     ++counts_.stored;
     const StoredPlace place{rated.rating, saved.number};
-    stored_->Add(result.signs.form, place);
+    runs_->stored->Add(result.signs.form, place);
     row.SetStored(place.level, static_cast<std::uint32_t>(place.number));
     log_.ReportLine(rated.rating == kOutlaw ? name + kUnsolvedText
                                             : name + ": " + PlaceText(place));

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "game/collection_runs.h"
 #include "game/collection_texts.h"
 #include "game/collection_window.h"
 #include "tools/threads.h"
@@ -43,13 +44,7 @@ void CollectionWindow::End(const std::string& message) {
     isQuitRefused_ = false;
     isWarning_ = false;
     message_ = message;
-    reading_.reset();
-    work_.reset();
-    stored_.reset();
-    waiting_.clear();
-    export_.reset();
-    solve_.reset();
-    brute_.reset();
+    *runs_ = {};
 }
 
 void CollectionWindow::Fail(const std::string& message) {
@@ -89,13 +84,13 @@ void CollectionWindow::StartOne(CollectionJob job) {
     jobRow_ = current_;
     ShowCurrent();
     if (job == CollectionJob::Report) {
-        brute_ = std::make_unique<BruteRun>(*clues);
+        runs_->brute = std::make_unique<BruteRun>(*clues);
         return;
     }
     log_.AddText("\r\nSolving Sudoku " + NumberOf(current_) + "\r\n");
     stepStands_ = 0;
     solveLevel_ = 0;
-    solve_ = std::make_unique<SolveRun>(*clues, BatchLadder(techniques_));
+    runs_->solve = std::make_unique<SolveRun>(*clues, BatchLadder(techniques_));
 }
 
 // Ratings by other techniques than now say nothing; what stands in a level file keeps its level.
@@ -147,8 +142,8 @@ void CollectionWindow::BeginWork(CollectionJob job, RowList rows) {
         ForgetTwins(rows);
     }
     if (job == CollectionJob::Import) {
-        stored_ = std::make_unique<StoredPuzzles>(files_);
-        importing_ = std::move(rows);
+        runs_->stored = std::make_unique<StoredPuzzles>(files_);
+        runs_->importing = std::move(rows);
         return;
     }
     TableTask task;
@@ -156,7 +151,7 @@ void CollectionWindow::BeginWork(CollectionJob job, RowList rows) {
     task.neededSlot = job == CollectionJob::FindNeed ? order_.filter.neededSlot : kNoSlot;
     task.findsTwins = job == CollectionJob::FindTwins;
     task.ladder = BatchLadder(techniques_);
-    work_ =
+    runs_->work =
         std::make_unique<TableWork>(*table_, std::move(rows), std::move(task), DefaultThreads());
 }
 
@@ -173,7 +168,7 @@ void CollectionWindow::Export(ExportFormat format, const std::filesystem::path& 
     if (!IsBusy()) {
         RowList rows = Chosen();
         Begin(CollectionJob::Export, rows.Size());
-        export_ = std::make_unique<TableExport>(*table_, std::move(rows), format, path);
+        runs_->exporting = std::make_unique<TableExport>(*table_, std::move(rows), format, path);
     }
 }
 
@@ -184,36 +179,36 @@ void CollectionWindow::Cancel() {
             runs->Stop();
         }
     };
-    stop(reading_);
-    stop(work_);
-    stop(export_);
-    stop(solve_);
-    stop(brute_);
+    stop(runs_->reading);
+    stop(runs_->work);
+    stop(runs_->exporting);
+    stop(runs_->solve);
+    stop(runs_->brute);
 }
 
 void CollectionWindow::Tick() {
-    if (reading_) {
+    if (runs_->reading) {
         TakeRead();
-    } else if (work_) {
+    } else if (runs_->work) {
         TakeWork();
-    } else if (stored_) {
+    } else if (runs_->stored) {
         BeginImport();
-    } else if (export_) {
+    } else if (runs_->exporting) {
         TakeExport();
-    } else if (solve_) {
+    } else if (runs_->solve) {
         TakeSolved();
-    } else if (brute_ && brute_->IsOver()) {
+    } else if (runs_->brute && runs_->brute->IsOver()) {
         if (!isCancelled_) {
-            ended_ = Ended{CollectionJob::Report, 0, brute_->Result(), jobRow_};
+            ended_ = Ended{CollectionJob::Report, 0, runs_->brute->Result(), jobRow_};
         }
         End(isCancelled_ ? "Stopped." : "");
     }
 }
 
 void CollectionWindow::TakeRead() {
-    const bool isOver = reading_->IsOver();
+    const bool isOver = runs_->reading->IsOver();
     std::vector<PuzzleTable::NewRow> rows;
-    for (TableReading::Piece& piece : reading_->Take(kMostAtOnce)) {
+    for (TableReading::Piece& piece : runs_->reading->Take(kMostAtOnce)) {
         if (piece.row) {
             rows.push_back(*piece.row);
         } else {
@@ -224,7 +219,7 @@ void CollectionWindow::TakeRead() {
     }
     const std::uint32_t first = table_->Size();
     if (const auto error = table_->Add(rows)) {
-        reading_->Stop();
+        runs_->reading->Stop();
         Fail(Utf8(error->path) + ": " + error->reason);
         return;
     }
@@ -242,9 +237,9 @@ void CollectionWindow::TakeRead() {
 void CollectionWindow::EndOfFile() {
     log_.EndReport();
     const std::string report = ReadText(
-        {Utf8(paths_[pathsRead_].filename()), reading_->Format(), done_, counts_.rejected});
+        {Utf8(paths_[pathsRead_].filename()), runs_->reading->Format(), done_, counts_.rejected});
     log_.AddLine(report);
-    const std::string failure = reading_->Failure();
+    const std::string failure = runs_->reading->Failure();
     if (!failure.empty()) {
         Fail(failure);
     } else if (isCancelled_) {
@@ -265,23 +260,24 @@ void CollectionWindow::EndOfFile() {
 }
 
 void CollectionWindow::TakeWork() {
-    const bool isOver = work_->IsOver();
-    const auto results = work_->Take(job_ == CollectionJob::Import ? kMostStored : kMostAtOnce);
-    waiting_.insert(waiting_.end(), results.begin(), results.end());
+    const bool isOver = runs_->work->IsOver();
+    const auto results =
+        runs_->work->Take(job_ == CollectionJob::Import ? kMostStored : kMostAtOnce);
+    runs_->waiting.insert(runs_->waiting.end(), results.begin(), results.end());
     const auto begin = Clock::now();
-    while (!waiting_.empty() && Clock::now() - begin < kLongestTick) {
-        TakeOver(waiting_.front());
+    while (!runs_->waiting.empty() && Clock::now() - begin < kLongestTick) {
+        TakeOver(runs_->waiting.front());
         if (job_ == CollectionJob::None) {
             return;  // it failed
         }
-        waiting_.pop_front();
+        runs_->waiting.pop_front();
     }
-    if (isOver && waiting_.empty()) {
+    if (isOver && runs_->waiting.empty()) {
         EndOfWork();
     }
 }
 
-void CollectionWindow::TakeOver(const TableWork::Result& result) {
+void CollectionWindow::TakeOver(const TableResult& result) {
     TableRow& row = table_->Row(result.row);
     const Solutions solutions = SolutionsOf(result.solutions);
     row.SetSolutions(solutions);
@@ -309,7 +305,7 @@ void CollectionWindow::TakeOver(const TableWork::Result& result) {
 void CollectionWindow::EndOfWork() {
     const CollectionJob job = job_;
     log_.EndReport();
-    if (work_->HasFailed()) {
+    if (runs_->work->HasFailed()) {
         Fail("The sudokus could not be read on from their temporary file.");
         return;
     }
@@ -335,7 +331,7 @@ void CollectionWindow::EndOfWork() {
 }
 
 void CollectionWindow::NoteTwins() {
-    for (const Duplicate& twin : work_->TakeTwins()) {
+    for (const Duplicate& twin : runs_->work->TakeTwins()) {
         TableRow& row = table_->Row(twin.number);
         const bool isExact = twin.sameness == Sameness::Exact;
         ++(isExact ? counts_.exact : counts_.equivalent);
@@ -346,12 +342,12 @@ void CollectionWindow::NoteTwins() {
 }
 
 void CollectionWindow::TakeExport() {
-    if (!export_->IsOver()) {
-        done_ = export_->Written();
+    if (!runs_->exporting->IsOver()) {
+        done_ = runs_->exporting->Written();
         return;
     }
-    done_ = export_->Written();
-    if (const auto& failure = export_->Failure()) {
+    done_ = runs_->exporting->Written();
+    if (const auto& failure = runs_->exporting->Failure()) {
         Fail(Utf8(failure->path) + ": " + failure->reason);
     } else {
         End(isCancelled_ ? "Stopped: no file was written."
@@ -360,9 +356,9 @@ void CollectionWindow::TakeExport() {
 }
 
 void CollectionWindow::TakeSolved() {
-    const bool isOver = solve_->IsOver();
+    const bool isOver = runs_->solve->IsOver();
     if (!isCancelled_ && !isOver && ++stepStands_ >= kStepStands) {
-        for (const SolveRun::SolvedStep& step : solve_->Take(1)) {
+        for (const SolveRun::SolvedStep& step : runs_->solve->Take(1)) {
             board_ = step.grid;
             solveLevel_ = step.reachedLevel;
             log_.AddText(step.log);
@@ -370,11 +366,12 @@ void CollectionWindow::TakeSolved() {
         }
     }
     if (isCancelled_) {
-        solve_->Take(kMostAtOnce);
+        runs_->solve->Take(kMostAtOnce);
     }
     if (isOver) {
         const std::string text =
-            isCancelled_ ? "Stopped." : SolvedText("Sudoku " + NumberOf(jobRow_), solve_->Rating());
+            isCancelled_ ? "Stopped."
+                         : SolvedText("Sudoku " + NumberOf(jobRow_), runs_->solve->Rating());
         log_.AddLine(text);
         End(text);
     }

@@ -1,6 +1,7 @@
 // What the collection window says.
 #include "game/collection_texts.h"
 
+#include "game/collection_runs.h"
 #include "game/collection_window.h"
 
 namespace vemo {
@@ -74,7 +75,7 @@ std::string CollectionWindow::StateOf(std::uint32_t number) const {
 
 double CollectionWindow::Progress() const {
     if (job_ == CollectionJob::Read) {
-        const double read = reading_ ? reading_->Progress() : 0;
+        const double read = runs_->reading ? runs_->reading->Progress() : 0;
         return (static_cast<double>(pathsRead_) + read) / static_cast<double>(paths_.size());
     }
     return total_ == 0 ? 0 : static_cast<double>(done_) / static_cast<double>(total_);
@@ -113,14 +114,15 @@ std::string CollectionWindow::Status() const {
     case CollectionJob::Rate:
     case CollectionJob::Check:
     case CollectionJob::FindNeed:
-        return batch(work_->ReachedLevel(), work_->TriedStep(), PuzzleOrigin::Own);
+        return batch(runs_->work->ReachedLevel(), runs_->work->TriedStep(), PuzzleOrigin::Own);
     case CollectionJob::Import:
-        return work_ ? batch(work_->ReachedLevel(), work_->TriedStep(), PuzzleOrigin::Imported)
-                     : "Looking through the level files";
+        return runs_->work ? batch(runs_->work->ReachedLevel(), runs_->work->TriedStep(),
+                                   PuzzleOrigin::Imported)
+                           : "Looking through the level files";
     case CollectionJob::Export:
         return "Exporting";
     case CollectionJob::Solve:
-        return batch(solveLevel_, solve_->TriedStep(), PuzzleOrigin::Own);
+        return batch(solveLevel_, runs_->solve->TriedStep(), PuzzleOrigin::Own);
     }
     return "";
 }

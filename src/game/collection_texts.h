@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "game/stored_puzzles.h"
+#include "model/files.h"
 
 namespace vemo {
 

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <utility>
 
+#include "game/collection_runs.h"
 #include "game/collection_texts.h"
 #include "tools/puzzle_line.h"
 
@@ -36,7 +37,10 @@ PuzzleTable::NewRow RowOf(const PuzzleRecord& record) {
 }  // namespace
 
 CollectionWindow::CollectionWindow(RecordFiles& files, const TechniqueSettings& techniques)
-    : files_(files), techniques_(techniques), table_(std::make_unique<PuzzleTable>()) {}
+    : files_(files),
+      techniques_(techniques),
+      table_(std::make_unique<PuzzleTable>()),
+      runs_(std::make_unique<CollectionRuns>()) {}
 
 CollectionWindow::~CollectionWindow() = default;
 
@@ -74,7 +78,7 @@ void CollectionWindow::OpenFiles(std::vector<std::filesystem::path> paths,
 
 void CollectionWindow::ReadNext() {
     log_.BeginReport();
-    reading_ = std::make_unique<TableReading>(paths_[pathsRead_], layout_);
+    runs_->reading = std::make_unique<TableReading>(paths_[pathsRead_], layout_);
 }
 
 void CollectionWindow::OpenLevel(int level) {
@@ -132,7 +136,8 @@ void CollectionWindow::Show(const TableOrder& order) {
         }
         Rebuild();
     }
-    if (job_ == CollectionJob::FindNeed && work_->Task().neededSlot != order_.filter.neededSlot) {
+    if (job_ == CollectionJob::FindNeed &&
+        runs_->work->Task().neededSlot != order_.filter.neededSlot) {
         looksAnew_ = true;
         Cancel();
     } else if (order_.filter.neededSlot != kNoSlot) {

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <chrono>
-#include <deque>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -13,16 +12,18 @@
 
 #include "game/collection_log.h"
 #include "game/print_pages.h"
-#include "game/stored_puzzles.h"
 #include "model/files.h"
+#include "solver/brute_force.h"
 #include "solver/settings.h"
-#include "tools/solve_run.h"
-#include "tools/table_export.h"
-#include "tools/table_reading.h"
+#include "tools/record_layout.h"
 #include "tools/table_view.h"
-#include "tools/table_work.h"
 
 namespace vemo {
+
+struct CollectionRuns;
+enum class ExportFormat : std::uint8_t;
+enum class Sameness : std::uint8_t;
+struct TableResult;
 
 // What the window is busy with.
 enum class CollectionJob : std::uint8_t {
@@ -171,7 +172,7 @@ class CollectionWindow {
     void TakeRead();
     void EndOfFile();
     void TakeWork();
-    void TakeOver(const TableWork::Result& result);
+    void TakeOver(const TableResult& result);
     void EndOfWork();
     void NoteTwins();
     void TakeSolved();
@@ -180,7 +181,7 @@ class CollectionWindow {
     void Fail(const std::string& message);
     // collection_import.cpp
     void BeginImport();
-    void Store(const TableWork::Result& result);
+    void Store(const TableResult& result);
     // collection_texts.cpp
     std::string NumberOf(std::uint32_t row) const;
     std::size_t UnratedCount() const;
@@ -214,15 +215,8 @@ class CollectionWindow {
     Clock::time_point begin_;
     std::size_t done_ = 0;
     std::size_t total_ = 0;
-    std::unique_ptr<TableReading> reading_;
-    std::unique_ptr<StoredPuzzles> stored_;
-    std::unique_ptr<TableWork> work_;
-    std::deque<TableWork::Result> waiting_;  // to be stored
-    std::unique_ptr<TableExport> export_;
-    std::unique_ptr<SolveRun> solve_;
-    std::unique_ptr<BruteRun> brute_;
-    RowList importing_;
-    int stepStands_ = 0;  // ticks
+    std::unique_ptr<CollectionRuns> runs_;  // never null
+    int stepStands_ = 0;                    // ticks
     int solveLevel_ = 0;
     std::uint32_t jobRow_ = kNoRow;
     std::optional<TechniqueSettings> ratedBy_;

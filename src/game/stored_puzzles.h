@@ -11,11 +11,6 @@
 
 namespace vemo {
 
-struct StoredPlace {
-    int level = 0;
-    int number = 0;
-};
-
 // The signs of the puzzles are found out beside the window.
 class StoredPuzzles {
   public:

@@ -18,6 +18,12 @@ namespace vemo {
 // The name of a level's puzzle file: "Sudoku_Easy.sds".
 std::string PuzzleFileName(int level);
 
+// Where a puzzle stands in the level files.
+struct StoredPlace {
+    int level = 0;
+    int number = 0;
+};
+
 struct NumberedPuzzle {
     int number = 0;
     PuzzleRecord record;

@@ -11,6 +11,8 @@
 #include "qt/form_controls.h"
 #include "qt/screen_text.h"
 #include "qt/wrap_layout.h"
+#include "tools/duplicates.h"
+#include "tools/puzzle_export.h"
 
 namespace vemo {
 

@@ -15,6 +15,7 @@
 #include "qt/screen_text.h"
 #include "qt/solve_button.h"
 #include "qt/wrap_layout.h"
+#include "tools/puzzle_table.h"
 
 namespace vemo {
 

@@ -13,6 +13,7 @@
 #include "model/times.h"
 #include "qt/row_table.h"
 #include "qt/screen_text.h"
+#include "tools/puzzle_table.h"
 
 namespace vemo {
 

@@ -28,6 +28,7 @@
 #include "qt/screen_text.h"
 #include "qt/text_panel.h"
 #include "qt/wrap_layout.h"
+#include "tools/puzzle_table.h"
 
 namespace vemo {
 

@@ -5,6 +5,8 @@
 #include <array>
 #include <numeric>
 
+#include "tools/puzzle_table.h"
+
 namespace vemo {
 namespace {
 

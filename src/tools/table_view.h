@@ -1,10 +1,13 @@
 // Which rows of a table are shown, and in which order.
 #pragma once
 
-#include "tools/puzzle_table.h"
+#include "tools/puzzle_filter.h"
 #include "tools/row_list.h"
 
 namespace vemo {
+
+class PuzzleTable;
+class TableRow;
 
 enum class TableColumn : std::uint8_t {
     Number,

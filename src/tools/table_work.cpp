@@ -32,14 +32,14 @@ TableWork::TableWork(const PuzzleTable& table, RowList rows, TableTask task, int
       thread_([this](const std::stop_token& stop) { Run(stop); }) {}
 
 void TableWork::Run(const std::stop_token& stop) {
-    OrderedWork<Chunk, std::vector<Result>> work;
+    OrderedWork<Chunk, std::vector<TableResult>> work;
     std::size_t at = 0;
     work.next = [&] { return stop.stop_requested() ? std::nullopt : Next(at); };
     work.work = [&](const Chunk& chunk, const std::stop_token&) { return Work(chunk, stop); };
-    work.give = [&](const Chunk& chunk, std::vector<Result>&& results) {
+    work.give = [&](const Chunk& chunk, std::vector<TableResult>&& results) {
         hasFailed_ = hasFailed_ || chunk.clues.size() != chunk.rows.size();
         if (task_.findsTwins) {
-            for (const Result& result : results) {
+            for (const TableResult& result : results) {
                 search_.Add(result.row, result.signs);
             }
         }
@@ -74,8 +74,8 @@ std::optional<TableWork::Chunk> TableWork::Next(std::size_t& at) const {
     return chunk.rows.empty() ? std::nullopt : std::optional(std::move(chunk));
 }
 
-std::vector<TableWork::Result> TableWork::Work(const Chunk& chunk, const std::stop_token& stop) {
-    std::vector<Result> results;
+std::vector<TableResult> TableWork::Work(const Chunk& chunk, const std::stop_token& stop) {
+    std::vector<TableResult> results;
     // Short only where the clues could not be read: then nothing is given on.
     for (std::size_t at = 0; at < chunk.clues.size() && !stop.stop_requested(); ++at) {
         results.push_back(WorkOn(chunk.rows[at], chunk.clues[at], stop));
@@ -83,9 +83,8 @@ std::vector<TableWork::Result> TableWork::Work(const Chunk& chunk, const std::st
     return results;
 }
 
-TableWork::Result TableWork::WorkOn(std::uint32_t row, const Digits& clues,
-                                    const std::stop_token& stop) {
-    Result result{row, FastCount(clues)};
+TableResult TableWork::WorkOn(std::uint32_t row, const Digits& clues, const std::stop_token& stop) {
+    TableResult result{row, FastCount(clues)};
     if (task_.signs || task_.findsTwins) {
         result.signs = SignsOf(clues, result.solutions);
     }

@@ -21,22 +21,23 @@ struct TableTask {
     Ladder ladder{};           // to rate by
 };
 
+// Of a row.
+struct TableResult {
+    std::uint32_t row = 0;
+    SolutionCount solutions;
+    std::optional<RatedPuzzle> rated{};
+    bool needs = false;
+    PuzzleSigns signs{};
+};
+
 class TableWork {
   public:
-    struct Result {
-        std::uint32_t row = 0;
-        SolutionCount solutions;
-        std::optional<RatedPuzzle> rated{};
-        bool needs = false;
-        PuzzleSigns signs{};
-    };
-
     // The table outlives the work; its rows are not read, only their clues. Begins at once.
     TableWork(const PuzzleTable& table, RowList rows, TableTask task, int threads);
 
     const TableTask& Task() const { return task_; }
     // Some of what has been found out, in the order of the rows.
-    std::vector<Result> Take(std::size_t most) { return results_.Take(most); }
+    std::vector<TableResult> Take(std::size_t most) { return results_.Take(most); }
     // All is done, or stopped. Nothing more will come.
     bool IsOver() const { return isOver_ && results_.IsEmpty(); }
     bool IsStopped() const { return thread_.get_stop_token().stop_requested(); }
@@ -57,8 +58,8 @@ class TableWork {
 
     void Run(const std::stop_token& stop);
     std::optional<Chunk> Next(std::size_t& at) const;
-    std::vector<Result> Work(const Chunk& chunk, const std::stop_token& stop);
-    Result WorkOn(std::uint32_t row, const Digits& clues, const std::stop_token& stop);
+    std::vector<TableResult> Work(const Chunk& chunk, const std::stop_token& stop);
+    TableResult WorkOn(std::uint32_t row, const Digits& clues, const std::stop_token& stop);
 
     const PuzzleTable& table_;
     const RowList rows_;
@@ -70,7 +71,7 @@ class TableWork {
     std::atomic<const Step*> triedStep_ = nullptr;
     DuplicateSearch search_;
     std::vector<Duplicate> twins_;
-    HandOver<Result> results_;
+    HandOver<TableResult> results_;
     std::jthread thread_;  // the first to go
 };
 

@@ -7,7 +7,10 @@
 #include "game/support.h"
 #include "support/own_puzzle.h"
 #include "support/puzzles.h"
+#include "tools/puzzle_export.h"
 #include "tools/puzzle_line.h"
+#include "tools/puzzle_source.h"
+#include "tools/puzzle_table.h"
 
 namespace vemo::test {
 namespace {
