@@ -33,15 +33,18 @@ function(vemo_optimise target name)
     endif()
 endfunction()
 
-# vemo_precompile(TARGET HEADERS ...): the standard headers and these are compiled once. Targets that
-# ask for the same, and are of the same type and options, share the result.
+# Programs are compiled as the libraries are, so that they share precompiled headers.
+set(CMAKE_CXX_COMPILE_OPTIONS_PIE ${CMAKE_CXX_COMPILE_OPTIONS_PIC})
+
+# vemo_precompile(TARGET HEADERS ...): the standard headers and these are compiled once, where there
+# are any. Targets that ask for the same and have the same options share the result.
 function(vemo_precompile target)
-    if(NOT VEMO_PRECOMPILE)
+    if(NOT VEMO_PRECOMPILE OR NOT ARGN)
         return()
     endif()
-    get_target_property(type ${target} TYPE)
+    get_target_property(is_test ${target} VEMO_IS_TEST)
     get_target_property(options ${target} COMPILE_OPTIONS)
-    string(MD5 key "${type} ${options} ${ARGN}")
+    string(MD5 key "${is_test} ${options} ${ARGN}")
     get_property(first GLOBAL PROPERTY VEMO_PRECOMPILED_${key})
     if(first)
         target_precompile_headers(${target} REUSE_FROM ${first})
@@ -52,11 +55,16 @@ function(vemo_precompile target)
     set_property(GLOBAL PROPERTY VEMO_PRECOMPILED_${key} ${target})
 endfunction()
 
-# vemo_test_code(TARGET NAME HEADERS ...): compiled as tests are; NAME as for vemo_optimise.
-function(vemo_test_code target name)
+# vemo_compile(TARGET NAME HEADERS ...): both of these.
+function(vemo_compile target name)
     vemo_optimise(${target} ${name})
-    set_target_properties(${target} PROPERTIES VEMO_IS_TEST ON)
     vemo_precompile(${target} ${ARGN})
+endfunction()
+
+# vemo_test_code(TARGET NAME HEADERS ...): compiled as tests are.
+function(vemo_test_code target name)
+    set_target_properties(${target} PROPERTIES VEMO_IS_TEST ON)
+    vemo_compile(${target} ${name} ${ARGN})
 endfunction()
 
 # vemo_library(NAME SOURCES ... [DEPENDS other folders' libraries] [PRECOMPILE headers])
@@ -64,8 +72,7 @@ function(vemo_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;PRECOMPILE" ${ARGN})
     add_library(vemo_${name} STATIC ${ARG_SOURCES})
     target_link_libraries(vemo_${name} PUBLIC vemo_options)
-    vemo_optimise(vemo_${name} ${name})
-    vemo_precompile(vemo_${name} ${ARG_PRECOMPILE})
+    vemo_compile(vemo_${name} ${name} ${ARG_PRECOMPILE})
     foreach(dependency ${ARG_DEPENDS})
         target_link_libraries(vemo_${name} PUBLIC vemo_${dependency})
     endforeach()
@@ -83,9 +90,16 @@ function(vemo_test name)
         target_link_libraries(${name} PRIVATE vemo_${dependency})
     endforeach()
     target_link_libraries(${name} PRIVATE GTest::gtest GTest::gtest_main)
-    vemo_test_code(${name} ${name} <gtest/gtest.h> ${ARG_PRECOMPILE})
+    vemo_test_code(${name} ${name} <gtest/gtest.h> <solver/solver.h> ${ARG_PRECOMPILE})
     if(CMAKE_CROSSCOMPILING)
         add_test(NAME ${name} COMMAND ${name})  # each start of an emulator takes its time
+    elseif(VEMO_TEST_SHARDS GREATER 0)
+        foreach(shard RANGE 1 ${VEMO_TEST_SHARDS})
+            math(EXPR index "${shard} - 1")
+            add_test(NAME ${name}_${shard} COMMAND ${name})
+            set_tests_properties(${name}_${shard} PROPERTIES ENVIRONMENT
+                "GTEST_TOTAL_SHARDS=${VEMO_TEST_SHARDS};GTEST_SHARD_INDEX=${index}")
+        endforeach()
     else()
         gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60)
     endif()

@@ -13,6 +13,8 @@ fi
 export CCACHE_SLOPPINESS=pch_defines,time_macros
 # The compiler lists what it reads: a first build does not run the preprocessor twice.
 export CCACHE_DEPEND=1
+# A precompiled header is large: it is not read again for every file that uses it.
+export CCACHE_INODECACHE=1
 
 Fail() { # MESSAGE
     echo "$program: $1" >&2

@@ -118,4 +118,16 @@ class MixedPositions {
     int count_ = 0;
 };
 
+// Few candidates or none in one cell of so many, a lot in the others.
+inline Grid GridWithoutSolution(std::mt19937& random, unsigned oneIn) {
+    Grid grid;
+    for (int cell = 0; cell < kCells; ++cell) {
+        const auto one = random();
+        const auto other = random();
+        const auto gone = random() % oneIn == 0 ? one | other : one & other;
+        Discard(grid, cell, static_cast<Marks>(gone & kAllMarks));
+    }
+    return grid;
+}
+
 }  // namespace vemo::test

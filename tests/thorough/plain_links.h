@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "solver/bit_rows.h"
-#include "solver/completeness.h"
 #include "solver/link_graph.h"
+#include "thorough/completeness.h"
 
 namespace vemo::test {
 

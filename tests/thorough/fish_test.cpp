@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <array>
 
-#include "solver/completeness.h"
+#include "thorough/completeness.h"
 
 namespace vemo {
 namespace {

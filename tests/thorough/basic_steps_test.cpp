@@ -1,5 +1,5 @@
 // The simple steps overlook no find.
-#include "solver/completeness.h"
+#include "thorough/completeness.h"
 
 namespace vemo {
 namespace {
@@ -96,7 +96,7 @@ std::function<EffectSet(const Grid&)> SubsetsBy(SubsetRule rule, int size) {
     return [=](const Grid& grid) { return Subsets(grid, rule, size); };
 }
 
-TEST(Completeness, EachStepFindsWhatItsDefinitionHolds) {
+TEST(BasicStepsCompleteness, EachStepFindsWhatItsDefinitionHolds) {
     const Enumerator rows[] = {
         {"HiddenSingle", StepAt(kHiddenSingle), HiddenSingles},
         {"NakedSingle", StepAt(kNakedSingle), NakedSingles},

@@ -208,18 +208,6 @@ inline void ExpectComplete(std::span<const Enumerator> rows) {
     }
 }
 
-// Few candidates or none in one cell of so many, a lot in the others.
-inline Grid GridWithoutSolution(std::mt19937& random, unsigned oneIn) {
-    Grid grid;
-    for (int cell = 0; cell < kCells; ++cell) {
-        const auto one = random();
-        const auto other = random();
-        const auto gone = random() % oneIn == 0 ? one | other : one & other;
-        Discard(grid, cell, static_cast<Marks>(gone & kAllMarks));
-    }
-    return grid;
-}
-
 // Inside a trial a grid can be left without any solution, down to cells without a candidate.
 inline void ExpectCompleteWithoutSolution(std::span<const Enumerator> rows, int grids,
                                           unsigned oneIn) {

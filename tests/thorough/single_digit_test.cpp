@@ -1,7 +1,7 @@
 // The patterns and the colorings of a single digit overlook no find.
 #include <array>
 
-#include "solver/completeness.h"
+#include "thorough/completeness.h"
 
 namespace vemo {
 namespace {

@@ -4,7 +4,7 @@
 #include <bit>
 #include <bitset>
 
-#include "solver/plain_links.h"
+#include "thorough/plain_links.h"
 
 namespace vemo {
 namespace {

@@ -1,7 +1,7 @@
 // Wings, rings and bent sets overlook no find, nor find any that is none.
 #include <array>
 
-#include "solver/completeness.h"
+#include "thorough/completeness.h"
 
 namespace vemo {
 namespace {

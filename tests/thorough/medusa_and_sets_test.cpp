@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "solver/completeness.h"
+#include "thorough/completeness.h"
 
 namespace vemo {
 namespace {

@@ -6,7 +6,7 @@
 #include <set>
 #include <tuple>
 
-#include "solver/plain_links.h"
+#include "thorough/plain_links.h"
 
 namespace vemo {
 namespace {

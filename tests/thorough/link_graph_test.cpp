@@ -1,8 +1,8 @@
 // The graph of links against one built plainly from the definition.
 #include <array>
 
-#include "solver/plain_links.h"
 #include "solver/position.h"
+#include "thorough/plain_links.h"
 
 namespace vemo {
 namespace {
