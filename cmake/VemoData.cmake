@@ -2,8 +2,7 @@
 # `assets` there, made of links; an installed game has the same in its share folder.
 include(GNUInstallDirs)
 
-file(GLOB level_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/assets/levels/Sudoku_*.sds)
-file(GLOB sound_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/assets/sounds/*.wav)
+file(GLOB level_files ${CMAKE_SOURCE_DIR}/assets/levels/Sudoku_*.sds)
 
 # A link to the whole folder, as it was made once, would lead back into the sources.
 if(IS_SYMLINK ${VEMO_BUILT_ASSETS})
@@ -29,6 +28,6 @@ install(TARGETS vemosud RUNTIME DESTINATION ${tools_folder})
 if(VEMO_QT)
     install(TARGETS vemosud2 RUNTIME DESTINATION ${games_folder})
     install(FILES ${level_files} DESTINATION ${program_folder})
-    install(FILES ${sound_files} DESTINATION ${program_folder}/sounds)
+    install(DIRECTORY assets/sounds DESTINATION ${program_folder} FILES_MATCHING PATTERN *.wav)
     install(DIRECTORY assets/help DESTINATION ${program_folder})
 endif()
