@@ -78,8 +78,8 @@ function(vemo_library name)
     endforeach()
 endfunction()
 
-# vemo_test(NAME SOURCES ... DEPENDS libraries [PRECOMPILE headers]): one GoogleTest program, its
-# tests listed one by one.
+# vemo_test(NAME SOURCES ... DEPENDS libraries [PRECOMPILE headers]): one GoogleTest program, run
+# test by test or in VEMO_TEST_SHARDS parts.
 function(vemo_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;PRECOMPILE" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
