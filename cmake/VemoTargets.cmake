@@ -26,13 +26,6 @@ if(VEMO_PRECOMPILE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
 endif()
 
-# vemo_optimise(TARGET NAME): as the build type says, unless NAME is one of those that go without.
-function(vemo_optimise target name)
-    if(name IN_LIST VEMO_UNOPTIMISED)
-        target_compile_options(${target} PRIVATE -O0)
-    endif()
-endfunction()
-
 # Programs are compiled as the libraries are, so that they share precompiled headers.
 set(CMAKE_CXX_COMPILE_OPTIONS_PIE ${CMAKE_CXX_COMPILE_OPTIONS_PIC})
 
@@ -59,13 +52,16 @@ function(vemo_precompile target)
     set_property(GLOBAL PROPERTY VEMO_PRECOMPILED_${key} ${target})
 endfunction()
 
-# vemo_compile(TARGET NAME HEADERS ...): both of these.
+# vemo_compile(TARGET NAME HEADERS ...): with these precompiled, and optimised as the build type says
+# unless NAME is one of those that go without.
 function(vemo_compile target name)
-    vemo_optimise(${target} ${name})
+    if(name IN_LIST VEMO_UNOPTIMISED)
+        target_compile_options(${target} PRIVATE -O0)
+    endif()
     vemo_precompile(${target} ${ARGN})
 endfunction()
 
-# vemo_test_code(TARGET NAME HEADERS ...): compiled as tests are.
+# vemo_test_code(TARGET NAME HEADERS ...): compiled as tests are; NAME is `tests` or `long_tests`.
 function(vemo_test_code target name)
     set_target_properties(${target} PROPERTIES VEMO_IS_TEST ON)
     vemo_compile(${target} ${name} ${ARGN})
@@ -82,10 +78,14 @@ function(vemo_library name)
     endforeach()
 endfunction()
 
-# vemo_test(NAME SOURCES ... DEPENDS libraries [PRECOMPILE headers]): one GoogleTest program, run
-# test by test or in VEMO_TEST_SHARDS parts.
+# vemo_test(NAME [LONG] SOURCES ... DEPENDS libraries [PRECOMPILE headers]): one GoogleTest program,
+# run test by test or in VEMO_TEST_SHARDS parts. A LONG one is worth optimising.
 function(vemo_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;PRECOMPILE" ${ARGN})
+    cmake_parse_arguments(ARG "LONG" "" "SOURCES;DEPENDS;PRECOMPILE" ${ARGN})
+    set(kind tests)
+    if(ARG_LONG)
+        set(kind long_tests)
+    endif()
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     target_compile_definitions(${name} PRIVATE
@@ -94,7 +94,7 @@ function(vemo_test name)
         target_link_libraries(${name} PRIVATE vemo_${dependency})
     endforeach()
     target_link_libraries(${name} PRIVATE GTest::gtest GTest::gtest_main)
-    vemo_test_code(${name} ${name} <gtest/gtest.h> <solver/solver.h> ${ARG_PRECOMPILE})
+    vemo_test_code(${name} ${kind} <gtest/gtest.h> <solver/solver.h> ${ARG_PRECOMPILE})
     if(CMAKE_CROSSCOMPILING)
         add_test(NAME ${name} COMMAND ${name})  # each start of an emulator takes its time
     elseif(VEMO_TEST_SHARDS GREATER 0)

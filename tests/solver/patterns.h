@@ -6,7 +6,10 @@
 #include <string_view>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "solver/solver.h"
+#include "solver/text.h"
 #include "support/puzzles.h"
 
 namespace vemo::test {
@@ -95,6 +98,15 @@ inline std::vector<Find> SearchAll(const Step& step, const Grid& grid) {
     AllFinds all;
     Solver(grid).Search(step, all);
     return all.finds;
+}
+
+// What every find keeps to: it takes or places what is there, and can be told.
+inline void ExpectProper(const Find& find, const Grid& grid) {
+    const auto isThere = [&](CellDigit at) { return grid.KnopAan(at.cell, at.digit); };
+    EXPECT_TRUE(find.ChangesSomething());
+    EXPECT_TRUE(std::ranges::all_of(find.placements, isThere));
+    EXPECT_TRUE(std::ranges::all_of(find.removals, isThere));
+    EXPECT_FALSE(LogLine(find).empty() || HintText(find).empty());
 }
 
 }  // namespace vemo::test

@@ -27,6 +27,13 @@ inline void DiscardSomeFalseMarks(Grid& grid, const Digits& solution, std::mt199
     }
 }
 
+// A quarter of the marks, right ones too: there may be no solution left.
+inline void DiscardSomeMarks(Grid& grid, std::mt19937& random) {
+    for (int cell : grid.EmptyCells()) {
+        Discard(grid, cell, static_cast<Marks>(random() & random() & kAllMarks));
+    }
+}
+
 // A puzzle of the corpus with all states on the way that the ladder takes.
 struct Solve {
     std::vector<Grid> states;

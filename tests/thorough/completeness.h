@@ -218,7 +218,7 @@ inline void ExpectCompleteWithoutSolution(std::span<const Enumerator> rows, int 
             SCOPED_TRACE(row.name);
             ASSERT_NO_FATAL_FAILURE(ExpectSameFinds(row, grid));
             for (const Find& find : SearchAll(row.step, grid)) {
-                EXPECT_FALSE(LogLine(find).empty() || HintText(find).empty());
+                ExpectProper(find, grid);
             }
         }
     }

@@ -180,9 +180,7 @@ TEST(Loops, AreWhatTheyShouldBeInContradictoryGridsToo) {
     std::mt19937 random{29};
     for (int k = 0; k < 20; ++k) {
         Grid grid = wild.Next();
-        for (int cell : grid.EmptyCells()) {
-            Discard(grid, cell, static_cast<Marks>(random() & random() & kAllMarks));
-        }
+        DiscardSomeMarks(grid, random);
         for (const LoopSlot& slot : kLoopSlots) {
             SCOPED_TRACE(slot.slot);
             ExpectLoops(slot, grid);
