@@ -209,7 +209,9 @@ void CollectionCommands::Play() {
         return;
     }
     const StoredPlace place = *Window().PlaceOfCurrent();
-    if (!LoadSudoku(stage_, place.level, place.number)) {
+    if (LoadSudoku(stage_, place.level, place.number)) {
+        stage_.view.GiveWay(Form::FormCollection);
+    } else {
         Tell(stage_, "Can't open sudoku",
              "Sudoku number " + std::to_string(place.number) + " is no longer in " +
                  Utf8(stage_.files.PuzzlePath(place.level)),

@@ -267,7 +267,9 @@ void PlayMadeSudoku(Stage& stage) {
         return;
     }
     stage.session.pendingLevel = level;
-    LoadSudoku(stage, level, made.number);
+    if (LoadSudoku(stage, level, made.number)) {
+        stage.view.GiveWay(Form::FormGenerator);
+    }
 }
 
 bool MayCloseGenerator(Stage& stage) {

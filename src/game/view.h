@@ -78,6 +78,9 @@ class View {
     // game is asked by `FormQueryUnload` and hears of it by `FormUnload`.
     virtual void OpenForm(Form form, Keyboard keyboard) = 0;
     virtual void CloseForm(Form form) = 0;
+    // What is played now has come from this window: the keyboard goes to the main window. Where it
+    // was covered, this one is out of the way until it is opened again, and goes on as it was.
+    virtual void GiveWay(Form form) = 0;
     // The hint window as it would be seen, as a BMP file. Empty where it is not open.
     virtual Bytes HintPicture() = 0;
 

@@ -20,6 +20,7 @@ class ViewWithoutWindow : public View {
     std::vector<std::filesystem::path> AskOpenFiles(const OpenQuestion&) override { return {}; }
     void OpenForm(Form, Keyboard) override {}
     void CloseForm(Form) override {}
+    void GiveWay(Form) override {}
     Bytes HintPicture() override { return {}; }
     void Yield() override {}
     void Pause(int, const std::function<bool()>&) override {}

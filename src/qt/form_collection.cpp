@@ -172,8 +172,10 @@ QWidget* FormCollection::MakeBody() {
     actions_ = new CollectionActions(CurrentGame(), body);
     preview_ = new CollectionPreview(CurrentGame(), body);
     connect(table_, &CollectionTable::CopyWanted, preview_, &CollectionPreview::Copy);
-    connect(preview_, &CollectionPreview::PlayWanted, this, [this] { Play(); });
-    connect(table_, &QTableView::doubleClicked, this, [this] { Play(); });
+    connect(preview_, &CollectionPreview::PlayWanted, this,
+            [this] { CurrentGame().Collection().CommandPlay(); });
+    connect(table_, &QTableView::doubleClicked, this,
+            [this] { CurrentGame().Collection().CommandPlay(); });
     grid_ = new QGridLayout(body);
     grid_->setContentsMargins(kPad, kPad, kPad, kGap);
     grid_->setHorizontalSpacing(kPad);
@@ -266,26 +268,10 @@ void FormCollection::AskLayout() {
     dialog->open();
 }
 
-// What is imported first is in play when that has ended.
 void FormCollection::Tick() {
-    const Session& session = CurrentGame().CurrentSession();
-    const std::pair before(session.level, session.number);
     CurrentGame().Collection().Tick();
     if (!Window().IsBusy()) {
         timer_.stop();
-    }
-    if (std::pair(session.level, session.number) != before) {
-        parentWidget()->activateWindow();
-    }
-}
-
-void FormCollection::Play() {
-    if (!CurrentGame().Collection().WhyNotPlay().empty()) {
-        return;
-    }
-    CurrentGame().Collection().CommandPlay();
-    if (!Window().IsBusy()) {
-        parentWidget()->activateWindow();
     }
 }
 
@@ -293,7 +279,7 @@ void FormCollection::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     auto* button = qobject_cast<QPushButton*>(focusWidget());
     if (isEnter && focusWidget() == table_) {
-        Play();
+        CurrentGame().Collection().CommandPlay();
     } else if (isEnter && button != nullptr) {
         button->click();
     } else {

@@ -48,7 +48,6 @@ class FormCollection final : public FormWindow {
     void MoveFocus();
     void AskLayout();
     void Tick();
-    void Play();
     void Arrange();
 
     QScrollArea* area_ = nullptr;

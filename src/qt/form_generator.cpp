@@ -88,7 +88,7 @@ QWidget* FormGenerator::MakeResults() {
     list_ = new MadeList(CurrentGame(), results);
     const QFontMetrics metrics = fontMetrics();
     list_->setMinimumHeight(kLeastRows * metrics.height() * 3 / 2);
-    connect(list_, &QTableView::doubleClicked, this, [this] { Play(); });
+    connect(list_, &QTableView::doubleClicked, this, [this] { CurrentGame().CommandPlay(); });
     auto* column = new QVBoxLayout(results);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(kGap);
@@ -108,7 +108,7 @@ QWidget* FormGenerator::MakeSelected() {
     selected_->setWordWrap(false);
     play_ = new QPushButton(u"&Play"_s, selected);
     play_->setObjectName(u"CommandPlay"_s);
-    connect(play_, &QPushButton::clicked, this, [this] { Play(); });
+    connect(play_, &QPushButton::clicked, this, [this] { CurrentGame().CommandPlay(); });
     auto* line = new QHBoxLayout(selected);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(kPad);
@@ -218,18 +218,11 @@ void FormGenerator::MoveFocus(bool isSearching) {
     }
 }
 
-void FormGenerator::Play() {
-    if (CurrentGame().WhyNotPlay().empty()) {
-        CurrentGame().CommandPlay();
-        parentWidget()->activateWindow();
-    }
-}
-
 void FormGenerator::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     auto* button = qobject_cast<QPushButton*>(focusWidget());
     if (isEnter && focusWidget() == list_) {
-        Play();
+        CurrentGame().CommandPlay();
     } else if (isEnter && button != nullptr) {
         button->click();
     } else {

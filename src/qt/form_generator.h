@@ -36,7 +36,6 @@ class FormGenerator final : public FormWindow {
     void ShowSelected(const BoardColors& colors);
     void ShowButtons();
     void MoveFocus(bool isSearching);
-    void Play();
     void Arrange();
     // That shows the order, and so many characters of the list beside it.
     int WidthBeside(int characters) const;

@@ -33,6 +33,12 @@ void FormWindow::Open(Keyboard keyboard) {
     }
 }
 
+void FormWindow::GiveWay() {
+    if (frameGeometry().intersects(parentWidget()->geometry())) {
+        hide();
+    }
+}
+
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(game_.FormQueryUnload(form_));
     if (event->isAccepted()) {

@@ -15,6 +15,8 @@ class FormWindow : public QMainWindow {
 
     // Shows it, or brings it to the front.
     void Open(Keyboard keyboard);
+    // Hides it where it covers some of the main window.
+    void GiveWay();
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -25,12 +25,6 @@ bool IsOpen(const QWidget* window) {
     return window != nullptr && window->isVisible();
 }
 
-void CloseOpen(QWidget* window) {
-    if (IsOpen(window)) {
-        window->close();
-    }
-}
-
 }  // namespace
 
 void Forms::Open(Form form, Keyboard keyboard, const BoardColors& colors) {
@@ -65,32 +59,16 @@ void Forms::Open(Form form, Keyboard keyboard, const BoardColors& colors) {
 }
 
 void Forms::Close(Form form) {
-    switch (form) {
-    case Form::FormHint:
-        CloseOpen(hint_);
-        break;
-    case Form::FormLog:
-        CloseOpen(log_);
-        break;
-    case Form::SolveTech:
-        CloseOpen(solveTech_);
-        break;
-    case Form::FormGenerator:
-        CloseOpen(generator_);
-        break;
-    case Form::FormCollection:
-        CloseOpen(collection_);
-        break;
-    case Form::FormColors:
-        CloseOpen(formColors_);
-        break;
-    case Form::FormPrint:
-        CloseOpen(print_);
-        break;
-    case Form::FormHelp:
-        CloseOpen(help_);
-        break;
+    if (FormWindow* window = WindowOf(form); IsOpen(window)) {
+        window->close();
     }
+}
+
+void Forms::GiveWay(Form form) {
+    if (FormWindow* window = WindowOf(form); IsOpen(window)) {
+        window->GiveWay();
+    }
+    mainWindow_->activateWindow();
 }
 
 void Forms::ShowScreen(const BoardColors& colors) {
@@ -122,6 +100,28 @@ void Forms::ShowScreen(const BoardColors& colors) {
 
 Bytes Forms::HintPicture() const {
     return IsOpen(hint_) ? hint_->Picture() : Bytes();
+}
+
+FormWindow* Forms::WindowOf(Form form) const {
+    switch (form) {
+    case Form::FormHint:
+        return hint_;
+    case Form::FormLog:
+        return log_;
+    case Form::SolveTech:
+        return solveTech_;
+    case Form::FormGenerator:
+        return generator_;
+    case Form::FormCollection:
+        return collection_;
+    case Form::FormColors:
+        return formColors_;
+    case Form::FormPrint:
+        return print_;
+    case Form::FormHelp:
+        return help_;
+    }
+    return nullptr;
 }
 
 }  // namespace vemo

@@ -15,6 +15,7 @@ class FormHelp;
 class FormHint;
 class FormLog;
 class FormPrint;
+class FormWindow;
 class SolveTechWindow;
 
 class Forms {
@@ -24,12 +25,17 @@ class Forms {
 
     void Open(Form form, Keyboard keyboard, const BoardColors& colors);
     void Close(Form form);
+    // As View::GiveWay.
+    void GiveWay(Form form);
     // The game's state as it is now, in the windows that are open.
     void ShowScreen(const BoardColors& colors);
     // As View::HintPicture.
     Bytes HintPicture() const;
 
   private:
+    // Null where it was never opened.
+    FormWindow* WindowOf(Form form) const;
+
     Game& game_;
     QWidget* mainWindow_;
     FormHint* hint_ = nullptr;

@@ -80,6 +80,10 @@ void WindowView::CloseForm(Form form) {
     window_->CloseForm(form);
 }
 
+void WindowView::GiveWay(Form form) {
+    window_->GiveWay(form);
+}
+
 Bytes WindowView::HintPicture() {
     return window_->HintPicture();
 }

@@ -25,6 +25,7 @@ class WindowView final : public View {
     std::vector<std::filesystem::path> AskOpenFiles(const OpenQuestion& question) override;
     void OpenForm(Form form, Keyboard keyboard) override;
     void CloseForm(Form form) override;
+    void GiveWay(Form form) override;
     Bytes HintPicture() override;
     void Yield() override;
     void Pause(int milliseconds, const std::function<bool()>& isOver) override;

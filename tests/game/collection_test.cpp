@@ -273,7 +273,9 @@ TEST_F(CollectionTest, APuzzleIsPlayedAfterItsImport) {
     Open(kEasy + "\n");
     EXPECT_EQ(Window().Current(), 0u);
     Commands().CommandPlay();
+    EXPECT_TRUE(view.gaveWay.empty());
     WaitForEnd();
+    EXPECT_EQ(view.gaveWay, std::vector{Form::FormCollection});
     EXPECT_EQ(game->CurrentSession().level, 1);
     EXPECT_EQ(game->CurrentSession().number, 2);
     EXPECT_EQ(WriteGrid81(game->CurrentSession().puzzle.clues), kEasy);

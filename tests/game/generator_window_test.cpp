@@ -122,6 +122,7 @@ TEST_F(GeneratorWindowTest, AMadeSudokuIsPlayedLikeAnyOtherOfItsLevel) {
     EXPECT_EQ(Seen().status[0], "Level: Easy");
     EXPECT_EQ(Seen().status[1], "Number: 3");
     EXPECT_EQ(game->CurrentSession().puzzle, Made()[1].rated.puzzle);
+    EXPECT_EQ(view.gaveWay, std::vector{Form::FormGenerator});
 
     game->mnuSudokuMake();
     EXPECT_NE(game->WhyNotPlay(), "");
@@ -139,6 +140,7 @@ TEST_F(GeneratorWindowTest, ASudokuThatIsNoLongerInItsFileIsNotPlayed) {
     game->CommandPlay();
     EXPECT_EQ(Seen().status[0], "Level: Crazy");
     EXPECT_TRUE(Seen().isBoardEnabled);
+    EXPECT_TRUE(view.gaveWay.empty());
 }
 
 TEST_F(GeneratorWindowTest, WhatCannotBeStoredStaysUntilItIsStoredOrGivenUp) {

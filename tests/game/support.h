@@ -64,6 +64,7 @@ class ScriptedView final : public View {
     }
     void OpenForm(Form form, Keyboard) override { opened.push_back(form); }
     void CloseForm(Form form) override { closed.push_back(form); }
+    void GiveWay(Form form) override { gaveWay.push_back(form); }
     Bytes HintPicture() override { return picture; }
     void Yield() override {
         ++yields;
@@ -95,6 +96,7 @@ class ScriptedView final : public View {
     std::vector<std::filesystem::path> openFiles;
     std::vector<Form> opened;
     std::vector<Form> closed;
+    std::vector<Form> gaveWay;
     Bytes picture;
 
   private:

@@ -86,7 +86,7 @@ class CollectionWindowTest final : public QObject {
     void DuplicatesAreTakenOffAndPutBack();
     void SolveShowsStepsOrTheReport();
     void ALayoutIsTriedOutBeforeItIsUsed();
-    void ASudokuOfALevelIsPlayed();
+    void ASudokuOfALevelIsPlayedInSight();
     void EverythingCanBeReachedInASmallWindow_data();
     void EverythingCanBeReachedInASmallWindow();
 
@@ -340,18 +340,29 @@ void CollectionWindowTest::ALayoutIsTriedOutBeforeItIsUsed() {
     QCOMPARE(Cell(1, TableColumn::Clues).toInt(), ClueCount(clues));
 }
 
-void CollectionWindowTest::ASudokuOfALevelIsPlayed() {
+void CollectionWindowTest::ASudokuOfALevelIsPlayedInSight() {
+    const QRect board = fixture_->window.geometry();
     Choose("CommandLevel", 0);
     QCOMPARE(State().Level(), 1);
     QVERIFY(Rows().rowCount() > 3);
     SelectRow(2);
+    form_->move(board.center());
     QTest::keyClick(&Table(), Qt::Key_Return);
     QCOMPARE(fixture_->game.CurrentSession().number, 3);
+    QVERIFY(WindowFixture::WaitForActive(fixture_->window));
+    QVERIFY(!form_->isVisible());
+
+    fixture_->ClickMenu(CommandId::SudokuCheck);
+    QVERIFY(WindowFixture::WaitForActive(*form_));
+    QCOMPARE(Table().currentIndex().row(), 2);
+    form_->move(board.right() + 100, board.top());
     const QModelIndex second = Rows().index(1, 0);
     const QPoint place = Table().visualRect(second).center();
     QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(Table().viewport(), Qt::LeftButton, {}, place);
     QCOMPARE(fixture_->game.CurrentSession().number, 2);
+    QVERIFY(WindowFixture::WaitForActive(fixture_->window));
+    QVERIFY(form_->isVisible());
 }
 
 void CollectionWindowTest::EverythingCanBeReachedInASmallWindow_data() {
