@@ -266,7 +266,6 @@ void PlayMadeSudoku(Stage& stage) {
              BoxIcon::Warning);
         return;
     }
-    stage.session.pendingLevel = level;
     if (LoadSudoku(stage, level, made.number)) {
         stage.view.GiveWay(Form::FormGenerator);
     }

@@ -194,9 +194,7 @@ bool LoadSudoku(Stage& stage, int level, int number) {
         return false;
     }
     Session& session = stage.session;
-    if (session.level != level) {
-        session.pendingLevel = level;
-    }
+    session.pendingLevel = level;  // whichever was pending: the puzzle is of this one
     AdoptPendingLevel(stage);
     if (!session.isScanBusy) {
         RememberOpened(stage, number);

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QDropEvent>
 #include <QGridLayout>
@@ -268,7 +269,11 @@ void FormCollection::AskLayout() {
     dialog->open();
 }
 
+// What ends may load a sudoku: not beneath a box that is about another one.
 void FormCollection::Tick() {
+    if (QApplication::activeModalWidget() != nullptr) {
+        return;
+    }
     CurrentGame().Collection().Tick();
     if (!Window().IsBusy()) {
         timer_.stop();

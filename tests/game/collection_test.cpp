@@ -281,6 +281,19 @@ TEST_F(CollectionTest, APuzzleIsPlayedAfterItsImport) {
     EXPECT_EQ(WriteGrid81(game->CurrentSession().puzzle.clues), kEasy);
 }
 
+TEST_F(CollectionTest, APlayedPuzzleIsOfItsOwnLevelWhicheverIsPending) {
+    OpenFirst(1);
+    view.Expect("Changed level",
+                "Statusbar will be updated after completion of the current sudoku");
+    game->mnuLevelNr(6);
+    Commands().CommandOpenLevel(1);
+    LookAt(0);
+    Commands().CommandPlay();
+    EXPECT_EQ(Seen().status[0], "Level: Easy");
+    game->mnuSudokuNext();
+    EXPECT_EQ(game->CurrentSession().level, 1) << "nothing is pending";
+}
+
 TEST_F(CollectionTest, TheSolveCommandSolvesStepByStepIntoTheWindowsOwnLog) {
     const std::string gameLog = game->SolveLogText();
     Open(std::string(kNeedsTrials) + "\n");

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDialog>
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QLabel>
@@ -87,6 +88,7 @@ class CollectionWindowTest final : public QObject {
     void SolveShowsStepsOrTheReport();
     void ALayoutIsTriedOutBeforeItIsUsed();
     void ASudokuOfALevelIsPlayedInSight();
+    void NothingIsLoadedBeneathABox();
     void EverythingCanBeReachedInASmallWindow_data();
     void EverythingCanBeReachedInASmallWindow();
 
@@ -363,6 +365,23 @@ void CollectionWindowTest::ASudokuOfALevelIsPlayedInSight() {
     QCOMPARE(fixture_->game.CurrentSession().number, 2);
     QVERIFY(WindowFixture::WaitForActive(fixture_->window));
     QVERIFY(form_->isVisible());
+}
+
+void CollectionWindowTest::NothingIsLoadedBeneathABox() {
+    for (int level = 1; level <= kLevels; ++level) {  // without any the import takes no time
+        std::filesystem::remove(fixture_->folders.LocalApplicationData() / kApplicationName /
+                                PuzzleFileName(level));
+    }
+    Drop("one.txt", LinesOf(ManyPuzzles(1)));
+    QDialog box(&fixture_->window);
+    box.setModal(true);
+    QTest::keyClick(&Table(), Qt::Key_Return);
+    QVERIFY(State().IsBusy());
+    box.show();
+    QTest::qWait(300);
+    QCOMPARE(fixture_->game.CurrentSession().phase, PlayPhase::NoPuzzle);
+    box.close();
+    QTRY_COMPARE_WITH_TIMEOUT(fixture_->game.CurrentSession().phase, PlayPhase::Playing, kPatience);
 }
 
 void CollectionWindowTest::EverythingCanBeReachedInASmallWindow_data() {
