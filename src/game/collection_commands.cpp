@@ -24,7 +24,7 @@ void CollectionCommands::mnuSudokuCheck() {
 
 void CollectionCommands::Read(std::vector<std::filesystem::path> paths,
                               const std::optional<RecordLayout>& layout) {
-    playsNext_ = false;
+    playsNext_ = CollectionWindow::kNoRow;
     stage_.collection.OpenFiles(std::move(paths), layout);
     stage_.show();
 }
@@ -114,7 +114,7 @@ void CollectionCommands::CommandPrint() {
 }
 
 void CollectionCommands::CommandCancel() {
-    playsNext_ = false;
+    playsNext_ = CollectionWindow::kNoRow;
     stage_.collection.Cancel();
     stage_.show();
 }
@@ -124,27 +124,29 @@ void CollectionCommands::Tick() {
     stage_.show();
     if (!Window().IsBusy()) {
         TellEnded();
+        stage_.collection.FindNeedIfDue();
+        stage_.show();
     }
 }
 
 void CollectionCommands::TellEnded() {
+    const std::uint32_t played = std::exchange(playsNext_, CollectionWindow::kNoRow);
     const auto ended = stage_.collection.TakeEnded();
     if (!ended) {
         return;
     }
-    const bool plays = std::exchange(playsNext_, false);
     if (ended->discarded > 0) {
         Tell(stage_, "Invalid Sudoku", kDiscardedText);
     }
     if (ended->report) {
         TellReport(*ended->report, ended->row);
-    } else if (plays && Window().PlaceOfCurrent()) {
-        Play();
+    } else if (const auto place = Window().PlaceOf(played)) {
+        Play(*place);
     }
 }
 
 void CollectionCommands::TellReport(const BruteForceResult& result, std::uint32_t row) {
-    if (result.IsUnique()) {
+    if (result.IsUnique() && row == Window().Current()) {
         stage_.collection.ShowSolution(result.solution);
     }
     const SolveReport report = ReportOf(result);
@@ -186,45 +188,45 @@ std::string CollectionCommands::WhyNotPlay() const {
     if (solutions == Solutions::None || solutions == Solutions::Several) {
         return "This sudoku has no unique solution.";
     }
-    return window.PlaceOfCurrent() || !window.IsBusy()
+    return window.PlaceOf(window.Current()) || !window.IsBusy()
                ? ""
                : "To be played it is imported first: press Cancel, or wait for the end.";
 }
 
 void CollectionCommands::CommandPlay() {
-    if (!WhyNotPlay().empty()) {
-        return;
+    const std::uint32_t row = Window().Current();
+    if (std::string why = WhyNotPlay(); !why.empty()) {
+        stage_.collection.Refuse(std::move(why));
+    } else if (const auto place = Window().PlaceOf(row)) {
+        Play(*place);
+    } else {
+        playsNext_ = row;
+        stage_.collection.ImportCurrent();
     }
-    if (Window().PlaceOfCurrent()) {
-        Play();
-        return;
-    }
-    playsNext_ = true;
-    stage_.collection.ImportCurrent();
     stage_.show();
 }
 
-void CollectionCommands::Play() {
-    if (!WhyNotPlay().empty()) {
-        return;
-    }
-    const StoredPlace place = *Window().PlaceOfCurrent();
-    if (LoadSudoku(stage_, place.level, place.number)) {
+void CollectionCommands::Play(const StoredPlace& place) {
+    if (std::string why = WhyNoPuzzleCanBeLoaded(stage_.session); !why.empty()) {
+        stage_.collection.Refuse(std::move(why));
+    } else if (LoadSudoku(stage_, place.level, place.number)) {
         stage_.view.GiveWay(Form::FormCollection);
     } else {
+        const bool isThere = stage_.files.ReadPuzzle(place.level, place.number).has_value();
         Tell(stage_, "Can't open sudoku",
-             "Sudoku number " + std::to_string(place.number) + " is no longer in " +
+             "Sudoku number " + std::to_string(place.number) +
+                 (isThere ? " is damaged in " : " is no longer in ") +
                  Utf8(stage_.files.PuzzlePath(place.level)),
              BoxIcon::Warning);
     }
-    stage_.show();
 }
 
 bool RefuseQuitWhileCollecting(Stage& stage) {
     if (!stage.collection.IsBusy()) {
         return false;
     }
-    stage.collection.RefuseQuit();
+    stage.collection.Refuse(
+        "The game cannot end meanwhile: press Cancel first. What is done stays.");
     stage.view.OpenForm(Form::FormCollection, Keyboard::Follows);
     return true;
 }

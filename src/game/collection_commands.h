@@ -50,10 +50,10 @@ class CollectionCommands {
     void TellEnded();
     void TellReport(const BruteForceResult& result, std::uint32_t row);
     void WriteBruteForceSolution(std::uint32_t row, const Digits& solution);
-    void Play();
+    void Play(const StoredPlace& place);
 
     Stage& stage_;
-    bool playsNext_ = false;  // when the import has ended
+    std::uint32_t playsNext_ = CollectionWindow::kNoRow;  // when its import has ended
 };
 
 // A job keeps the game from ending: the window comes to the front and says so.

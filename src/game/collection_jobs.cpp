@@ -27,8 +27,7 @@ bool NeedsRating(CollectionJob job) {
 void CollectionWindow::Begin(CollectionJob job, std::size_t total) {
     job_ = job;
     isCancelled_ = false;
-    looksAnew_ = false;
-    isQuitRefused_ = false;
+    refusal_.clear();
     isWarning_ = false;
     message_.clear();
     begin_ = Clock::now();
@@ -40,8 +39,7 @@ void CollectionWindow::Begin(CollectionJob job, std::size_t total) {
 
 void CollectionWindow::End(const std::string& message) {
     job_ = CollectionJob::None;
-    isChecking_ = isChecking_ && !isCancelled_;
-    isQuitRefused_ = false;
+    refusal_.clear();
     isWarning_ = false;
     message_ = message;
     *runs_ = {};
@@ -49,7 +47,7 @@ void CollectionWindow::End(const std::string& message) {
 
 void CollectionWindow::Fail(const std::string& message) {
     log_.AddLine(message);
-    isChecking_ = false;
+    checked_.reset();
     End(message);
     isWarning_ = true;
 }
@@ -58,8 +56,9 @@ void CollectionWindow::Start(CollectionJob job) {
     if (IsBusy()) {
         return;
     }
-    isChecking_ = job == CollectionJob::Check;
-    if (isChecking_) {
+    checked_.reset();
+    if (job == CollectionJob::Check) {
+        checked_ = Chosen();
         job = CollectionJob::Rate;
     }
     if (job == CollectionJob::Solve || job == CollectionJob::Report) {
@@ -290,8 +289,8 @@ void CollectionWindow::TakeOver(const TableResult& result) {
         ++counts_.levels[static_cast<std::size_t>(result.rated->rating)];
     }
     if (job_ == CollectionJob::FindNeed) {
-        if (looksAnew_) {
-            return;  // for another technique
+        if (runs_->work->Task().neededSlot != order_.filter.neededSlot) {
+            return;  // another one is asked for meanwhile
         }
         row.SetNeeds(result.needs ? Needs::Yes : Needs::No);
         if (IsLiked(row, order_)) {
@@ -317,16 +316,17 @@ void CollectionWindow::EndOfWork() {
     if (job == CollectionJob::Import) {
         ended_ = Ended{job, counts_.discarded, std::nullopt, kNoRow};
     }
-    const bool isEnough = isCancelled_ && !looksAnew_;
     End(text);
     if (order_ != TableOrder()) {
         Rebuild();
     }
-    if (isChecking_ && job == CollectionJob::Rate) {
-        Start(CollectionJob::FindTwins);
-    } else if (!isEnough && order_.filter.neededSlot != kNoSlot &&
-               (job == CollectionJob::Rate || looksAnew_)) {
-        Start(CollectionJob::FindNeed);
+    std::optional<RowList> checked = std::exchange(checked_, std::nullopt);
+    if (isCancelled_) {
+        return;
+    }
+    isNeedDue_ |= job == CollectionJob::Rate;
+    if (checked) {
+        BeginWork(CollectionJob::FindTwins, std::move(*checked));
     }
 }
 
@@ -379,10 +379,6 @@ void CollectionWindow::TakeSolved() {
 
 std::optional<CollectionWindow::Ended> CollectionWindow::TakeEnded() {
     return std::exchange(ended_, std::nullopt);
-}
-
-void CollectionWindow::RefuseQuit() {
-    isQuitRefused_ = true;
 }
 
 }  // namespace vemo

@@ -128,8 +128,8 @@ std::string CollectionWindow::Status() const {
 }
 
 std::string CollectionWindow::Message() const {
-    if (isQuitRefused_) {
-        return "The game cannot end meanwhile: press Cancel first. What is done stays.";
+    if (!refusal_.empty()) {
+        return refusal_;
     }
     if (IsBusy()) {
         return isCancelled_ ? "Stopping..."
@@ -179,7 +179,10 @@ std::string CollectionWindow::EndOfWorkText() const {
     case CollectionJob::FindNeed:
         text = Begun("Tried without the technique", done_, total_, isCancelled_) +
                "; need it: " + Grouped(shown_.Size());
-        text += counted("; not rated yet, so press Rate first: ", UnratedCount());
+        text += counted(
+            "; not rated yet, so take the technique off, press Rate and choose it "
+            "again: ",
+            UnratedCount());
         break;
     default:
         text = Begun("Rated", done_, total_, isCancelled_);

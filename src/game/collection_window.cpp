@@ -128,6 +128,7 @@ std::vector<ReadPiece> CollectionWindow::PreviewOf(const RecordLayout& layout) c
 }
 
 void CollectionWindow::Show(const TableOrder& order) {
+    isNeedDue_ |= order != order_ || !IsBusy();
     if (order != order_) {
         const bool isOtherTechnique = order.filter.neededSlot != order_.filter.neededSlot;
         order_ = order;
@@ -138,22 +139,43 @@ void CollectionWindow::Show(const TableOrder& order) {
     }
     if (job_ == CollectionJob::FindNeed &&
         runs_->work->Task().neededSlot != order_.filter.neededSlot) {
-        looksAnew_ = true;
         Cancel();
-    } else if (order_.filter.neededSlot != kNoSlot) {
+    }
+    FindNeedIfDue();
+}
+
+void CollectionWindow::FindNeedIfDue() {
+    if (!IsBusy() && std::exchange(isNeedDue_, false) && order_.filter.neededSlot != kNoSlot) {
         Start(CollectionJob::FindNeed);
     }
 }
 
+// The rows that are selected and looked at stay so where they are still shown.
 void CollectionWindow::Rebuild() {
+    std::vector<bool> isSelected(table_->Size());
+    for (const ShownRange& range : selected_) {
+        for (std::size_t at = range.first; at < range.first + range.count; ++at) {
+            isSelected[shown_[at]] = true;
+        }
+    }
     shown_ = ShownRows(*table_, order_);
     ++shownVersion_;
-    // The row stays the one that is looked at where it is still shown.
+    std::vector<ShownRange> selected;
     std::optional<std::size_t> place;
-    for (std::size_t at = 0; current_ != kNoRow && !place && at < shown_.Size(); ++at) {
-        place = shown_[at] == current_ ? std::optional(at) : std::nullopt;
+    for (std::size_t at = 0; at < shown_.Size(); ++at) {
+        if (shown_[at] == current_) {
+            place = at;
+        }
+        if (!isSelected[shown_[at]]) {
+            continue;
+        }
+        if (!selected.empty() && selected.back().first + selected.back().count == at) {
+            ++selected.back().count;
+        } else {
+            selected.push_back({at, 1});
+        }
     }
-    Select({}, place);
+    Select(std::move(selected), place);
 }
 
 void CollectionWindow::Select(std::vector<ShownRange> ranges, std::optional<std::size_t> current) {
@@ -169,6 +191,7 @@ void CollectionWindow::Select(std::vector<ShownRange> ranges, std::optional<std:
     const std::uint32_t row = currentPlace_ ? shown_[*currentPlace_] : kNoRow;
     if (row != current_) {
         current_ = row;
+        refusal_.clear();
         if (job_ == CollectionJob::Solve) {
             Cancel();
         }
@@ -259,11 +282,10 @@ std::optional<PrintedSudoku> CollectionWindow::PrintedOf(std::uint32_t number) c
     return PrintedFrom(record, place.level, place.number);
 }
 
-std::optional<StoredPlace> CollectionWindow::PlaceOfCurrent() const {
-    return current_ == kNoRow ? std::nullopt : PlaceOf(current_);
-}
-
 std::optional<StoredPlace> CollectionWindow::PlaceOf(std::uint32_t number) const {
+    if (number == kNoRow) {
+        return std::nullopt;
+    }
     if (level_ != 0) {
         return StoredPlace{level_, static_cast<int>(number) + 1};
     }

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "game/collection_log.h"
@@ -83,6 +84,8 @@ class CollectionWindow {
     RowList Chosen() const;
     std::size_t ChosenCount() const { return IsForSelected() ? selectedCount_ : shown_.Size(); }
     bool IsForSelected() const { return selectedCount_ > 1; }
+    // They stay selected in another order, as far as they are shown.
+    const std::vector<ShownRange>& Selected() const { return selected_; }
 
     CollectionJob Job() const { return job_; }
     bool IsBusy() const { return job_ != CollectionJob::None; }
@@ -94,7 +97,7 @@ class CollectionWindow {
     std::string Status() const;
     // How things stand, what went wrong, what to do: for the player.
     std::string Message() const;
-    bool IsWarning() const { return isWarning_ || isQuitRefused_; }
+    bool IsWarning() const { return isWarning_ || !refusal_.empty(); }
 
     // The selected puzzle, or as far as it is solved.
     const Grid& Board() const { return board_; }
@@ -109,7 +112,9 @@ class CollectionWindow {
     // Reads the open files again.
     void ReadBy(std::optional<RecordLayout> layout) { OpenFiles(paths_, layout); }
 
+    // Which rows need the technique of a filter is found out at once, or after the job that runs.
     void Show(const TableOrder& order);
+    void FindNeedIfDue();
     // `current` is a place of the list; nothing: no row is looked at.
     void Select(std::vector<ShownRange> ranges, std::optional<std::size_t> current);
 
@@ -143,13 +148,13 @@ class CollectionWindow {
         std::uint32_t row = kNoRow;                // that it was for
     };
     std::optional<Ended> TakeEnded();
-    // Where the current row stands in a level file.
-    std::optional<StoredPlace> PlaceOfCurrent() const;
+    // Where a row stands in a level file.
+    std::optional<StoredPlace> PlaceOf(std::uint32_t row) const;
     // The solution of the solve report is on the board.
     void ShowSolution(const Digits& solution);
 
-    // The game was asked to end during a job: the message says why it does not.
-    void RefuseQuit();
+    // The message says why what was asked for is not done.
+    void Refuse(std::string why) { refusal_ = std::move(why); }
 
   private:
     using Clock = std::chrono::steady_clock;
@@ -158,7 +163,6 @@ class CollectionWindow {
     void Close();
     void ReadNext();
     void LookAtFirst();
-    std::optional<StoredPlace> PlaceOf(std::uint32_t row) const;
     void Rebuild();
     void ShowCurrent();
     // collection_jobs.cpp
@@ -209,9 +213,9 @@ class CollectionWindow {
     Grid board_;
 
     CollectionJob job_ = CollectionJob::None;
-    bool isChecking_ = false;  // twins are looked for after the rating
+    std::optional<RowList> checked_;  // whose twins are looked for after the rating
     bool isCancelled_ = false;
-    bool looksAnew_ = false;  // the technique that is looked for has been changed meanwhile
+    bool isNeedDue_ = false;  // to be found out after the job
     Clock::time_point begin_;
     std::size_t done_ = 0;
     std::size_t total_ = 0;
@@ -237,7 +241,7 @@ class CollectionWindow {
     CollectionLog log_;
     std::string message_;
     bool isWarning_ = false;
-    bool isQuitRefused_ = false;
+    std::string refusal_;
 };
 
 }  // namespace vemo

@@ -31,10 +31,8 @@ void Game::GeneratorSelect(int row) {
 }
 
 void Game::CommandPlay() {
-    if (!stage_.session.IsBusy()) {
-        PlayMadeSudoku(stage_);
-        Show();
-    }
+    PlayMadeSudoku(stage_);
+    Show();
 }
 
 void Game::GeneratorTick() {

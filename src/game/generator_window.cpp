@@ -144,7 +144,7 @@ void GeneratorWindow::EndSearch(Ending ending) {
     counts_.ending = ending;
     known_.reset();
     generator_.reset();
-    isQuitRefused_ = false;
+    refusal_.clear();
 }
 
 bool GeneratorWindow::Store(MadeSudoku& made) {
@@ -161,6 +161,7 @@ bool GeneratorWindow::Store(MadeSudoku& made) {
 void GeneratorWindow::Store() {
     unstored_ = 0;
     failure_.clear();
+    refusal_.clear();
     for (MadeSudoku& made : made_) {
         if (!made.IsStored()) {
             Store(made);
@@ -179,6 +180,7 @@ double GeneratorWindow::TriesPerSecond() const {
 }
 
 void GeneratorWindow::Select(int row) {
+    refusal_.clear();
     row_ = row >= 0 && row < static_cast<int>(made_.size()) ? row : kNoRow;
 }
 
@@ -187,8 +189,8 @@ const MadeSudoku* GeneratorWindow::Selected() const {
 }
 
 std::string GeneratorWindow::Message() const {
-    if (isQuitRefused_) {
-        return "The game cannot end during a search: press Cancel first. What was made stays.";
+    if (!refusal_.empty()) {
+        return refusal_;
     }
     if (known_) {
         return "Looking through the sudokus of these levels, so that none is made again...";
@@ -253,7 +255,8 @@ std::string WhyNotPlay(const Stage& stage) {
 }
 
 void PlayMadeSudoku(Stage& stage) {
-    if (!WhyNotPlay(stage).empty()) {
+    if (std::string why = WhyNotPlay(stage); !why.empty()) {
+        stage.generator.Refuse(std::move(why));
         return;
     }
     const MadeSudoku& made = *stage.generator.Selected();
@@ -291,7 +294,8 @@ bool RefuseQuitWhileSearching(Stage& stage) {
     if (!stage.generator.IsSearching()) {
         return false;
     }
-    stage.generator.RefuseQuit();
+    stage.generator.Refuse(
+        "The game cannot end during a search: press Cancel first. What was made stays.");
     OpenGenerator(stage);
     return true;
 }

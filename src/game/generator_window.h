@@ -36,7 +36,7 @@ class GeneratorWindow {
     // How the search stands or what ended it, what failed, what to do: for the player.
     std::string Message() const;
     // The message speaks of something that went wrong.
-    bool IsWarning() const { return isQuitRefused_ || (!IsSearching() && !failure_.empty()); }
+    bool IsWarning() const { return !refusal_.empty() || (!IsSearching() && !failure_.empty()); }
 
     // The search that runs, or ran last.
     bool HasSearched() const { return hasSearched_; }
@@ -62,8 +62,8 @@ class GeneratorWindow {
     void Select(int row);
     // Tries again to store what could not be stored.
     void Store();
-    // The game was asked to end during the search: the message says why it does not.
-    void RefuseQuit() { isQuitRefused_ = true; }
+    // The message says why what was asked for is not done.
+    void Refuse(std::string why) { refusal_ = std::move(why); }
     // The player gives up what is not stored.
     void GiveUpUnstored();
 
@@ -88,12 +88,12 @@ class GeneratorWindow {
     GeneratorCounts counts_;
     std::chrono::steady_clock::time_point begin_;
     std::chrono::milliseconds passed_{0};
-    bool isQuitRefused_ = false;
 
     std::vector<MadeSudoku> made_;
     int unstored_ = 0;
     int row_ = kNoRow;
     std::string failure_;
+    std::string refusal_;
 };
 
 // The events that concern the rest of the game.

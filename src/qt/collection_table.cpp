@@ -69,9 +69,10 @@ int AlignmentOf(int section) {
 
 }  // namespace
 
-void CollectionModel::Follow() {
+bool CollectionModel::Follow() {
     const int rows = static_cast<int>(window_.Shown().Size());
-    if (window_.ShownVersion() != version_ || rows < rows_) {
+    const bool areOthers = window_.ShownVersion() != version_ || rows < rows_;
+    if (areOthers) {
         beginResetModel();
         version_ = window_.ShownVersion();
         rows_ = rows;
@@ -81,6 +82,7 @@ void CollectionModel::Follow() {
         rows_ = rows;
         endInsertRows();
     }
+    return areOthers;
 }
 
 int CollectionModel::rowCount(const QModelIndex& parent) const {
@@ -144,16 +146,30 @@ CollectionTable::CollectionTable(Game& game, QWidget* parent)
 void CollectionTable::ShowRows() {
     const QScopedValueRollback following(isFollowing_, true);
     const CollectionWindow& window = game_.Collection().Window();
-    model_->Follow();
+    const bool areOthers = model_->Follow();
     const auto place = window.CurrentPlace();
     if (place && static_cast<int>(*place) != currentIndex().row()) {
         setCurrentIndex(model_->index(static_cast<int>(*place), 0));
+    }
+    if (areOthers && window.IsForSelected()) {
+        SelectRows(window.Selected());
     }
     const TableOrder& order = window.Order();
     horizontalHeader()->setSortIndicator(static_cast<int>(order.column), order.isDescending
                                                                              ? Qt::DescendingOrder
                                                                              : Qt::AscendingOrder);
     viewport()->update();
+}
+
+void CollectionTable::SelectRows(const std::vector<ShownRange>& ranges) {
+    QItemSelection rows;
+    for (const ShownRange& range : ranges) {
+        const auto first = static_cast<int>(range.first);
+        const auto last = static_cast<int>(range.first + range.count - 1);
+        rows.append(QItemSelectionRange(model_->index(first, 0),
+                                        model_->index(last, model_->columnCount() - 1)));
+    }
+    selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
 }
 
 void CollectionTable::SortBy(int section) {

@@ -19,8 +19,8 @@ class CollectionModel final : public QAbstractTableModel {
     CollectionModel(const CollectionWindow& window, QObject* parent)
         : QAbstractTableModel(parent), window_(window) {}
 
-    // As the game's list is now: others, or more at its end.
-    void Follow();
+    // As the game's list is now: others, which is true, or more at its end.
+    bool Follow();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -56,6 +56,7 @@ class CollectionTable final : public QTableView {
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
   private:
+    void SelectRows(const std::vector<ShownRange>& ranges);
     void SortBy(int section);
     void ReportSelection();
     QString Invitation() const;

@@ -199,6 +199,52 @@ TEST_F(CollectionTest, ACancelledJobGoesOnWhereItWas) {
     }
 }
 
+TEST_F(CollectionTest, WhatIsSelectedStaysSoInAnotherOrderAndAfterAJob) {
+    const std::string seventeen = WriteGrid81(Corpus()[0]);
+    Open(kEasy + "\n" + seventeen + "\n" + HardLine() + "\n" + UnderAnotherLook(kEasy) + "\n");
+    Commands().Select({{1, 3}}, 1);
+    TableOrder order;
+    order.isDescending = true;
+    Commands().Show(order);
+    ASSERT_EQ(ShownRows(), (std::vector<std::uint32_t>{3, 2, 1, 0}));
+    EXPECT_EQ(Window().ChosenCount(), 3u);
+    EXPECT_EQ(Window().CurrentPlace(), 2u);
+    Run(CollectionJob::Rate);
+    EXPECT_EQ(Row(0).Level(), 0);
+    EXPECT_NE(Row(3).Level(), 0);
+    EXPECT_EQ(Window().ChosenCount(), 3u);
+    Run(CollectionJob::FindTwins);
+    EXPECT_EQ(Window().StateOf(3), "solved") << "the one that it is the same as is not selected";
+}
+
+TEST_F(CollectionTest, ACheckLooksForTwinsAmongTheRowsThatItBeganWith) {
+    Open(kEasy + "\n" + HardLine() + "\n" + kEasy + "\n");
+    TableOrder order;
+    order.kind = RowKind::Unchecked;
+    Commands().Show(order);
+    Run(CollectionJob::Check);
+    EXPECT_EQ(Window().Shown().Size(), 0u);
+    EXPECT_EQ(Window().StateOf(2), "same as 1");
+}
+
+TEST_F(CollectionTest, ATechniqueChosenDuringAJobIsLookedForAfterIt) {
+    constexpr int kXWing = 8;
+    Open(CorpusText());
+    Run(CollectionJob::Rate);
+    TableOrder order;
+    order.filter.neededSlot = kXWing;
+    for (CollectionJob job : {CollectionJob::FindTwins, CollectionJob::Rate}) {
+        Commands().Show({});
+        WaitForEnd();
+        Commands().CommandStart(job);
+        Commands().Show(order);
+        EXPECT_EQ(Window().Shown().Size(), 0u);
+        WaitForEnd();
+        EXPECT_GT(Window().Shown().Size(), 0u);
+        EXPECT_NE(Window().Message().find("; need it: "), std::string::npos);
+    }
+}
+
 TEST_F(CollectionTest, FiltersAndSortingShowWhatIsAskedFor) {
     Open(CorpusText());
     Run(CollectionJob::Rate);
@@ -270,9 +316,10 @@ TEST_F(CollectionTest, WhatCannotBeStoredEndsTheImportAndIsNamed) {
 }
 
 TEST_F(CollectionTest, APuzzleIsPlayedAfterItsImport) {
-    Open(kEasy + "\n");
+    Open(kEasy + "\n" + HardLine() + "\n");
     EXPECT_EQ(Window().Current(), 0u);
     Commands().CommandPlay();
+    LookAt(1);
     EXPECT_TRUE(view.gaveWay.empty());
     WaitForEnd();
     EXPECT_EQ(view.gaveWay, std::vector{Form::FormCollection});
@@ -292,6 +339,16 @@ TEST_F(CollectionTest, APlayedPuzzleIsOfItsOwnLevelWhicheverIsPending) {
     EXPECT_EQ(Seen().status[0], "Level: Easy");
     game->mnuSudokuNext();
     EXPECT_EQ(game->CurrentSession().level, 1) << "nothing is pending";
+}
+
+TEST_F(CollectionTest, WhyASudokuIsNotPlayedIsSaid) {
+    Open(kEasy + "\n" + HardLine() + "\n");
+    game->mnuSudokuMake();
+    Commands().CommandPlay();
+    EXPECT_TRUE(Window().IsWarning());
+    EXPECT_EQ(Window().Message(), Commands().WhyNotPlay());
+    LookAt(1);
+    EXPECT_FALSE(Window().IsWarning());
 }
 
 TEST_F(CollectionTest, TheSolveCommandSolvesStepByStepIntoTheWindowsOwnLog) {
@@ -323,6 +380,11 @@ TEST_F(CollectionTest, TheSolveReportTellsTheThreeOutcomesAndStoresALevelsSoluti
     report(1, "Invalid Sudoku", "This Sudoku has no solution");
     report(2, "Valid Sudoku", "This Sudoku has one unique solution");
     EXPECT_FALSE(Window().Board().EmptyCells().Any());
+    view.Expect("Valid Sudoku", "This Sudoku has one unique solution");
+    Commands().CommandSolveMouseUp(MouseButton::Right, Released::Inside);
+    LookAt(0);
+    WaitForEnd();
+    EXPECT_TRUE(Window().Board().EmptyCells().Any()) << "of another sudoku";
 
     PuzzleRecord wrong = PuzzleWithOpen({0, 1, 40, 80});
     std::swap(wrong.solution[0], wrong.solution[1]);
@@ -330,6 +392,9 @@ TEST_F(CollectionTest, TheSolveReportTellsTheThreeOutcomesAndStoresALevelsSoluti
     Commands().CommandOpenLevel(1);
     EXPECT_EQ(Window().Name(), "Level Easy");
     ASSERT_EQ(Window().Table().Size(), 1u);
+    view.Expect("Can't open sudoku",
+                "Sudoku number 1 is damaged in " + Records().PuzzlePath(1).string());
+    Commands().CommandPlay();
     report(0, "Valid Sudoku", "This Sudoku has one unique solution");
     EXPECT_EQ(Records().ReadPuzzle(1, 1)->solution, PlainSolution());
 }

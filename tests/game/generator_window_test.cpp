@@ -125,8 +125,9 @@ TEST_F(GeneratorWindowTest, AMadeSudokuIsPlayedLikeAnyOtherOfItsLevel) {
     EXPECT_EQ(view.gaveWay, std::vector{Form::FormGenerator});
 
     game->mnuSudokuMake();
-    EXPECT_NE(game->WhyNotPlay(), "");
     game->CommandPlay();
+    EXPECT_EQ(Window().Message(), game->WhyNotPlay());
+    EXPECT_TRUE(Window().IsWarning());
     EXPECT_TRUE(game->CurrentSession().IsMaking());
 }
 

@@ -81,7 +81,7 @@ class CollectionWindowTest final : public QObject {
 
     void ADroppedFileIsReadAndWhatIsRejectedIsReported();
     void RowsAreSelectedAndCopiedFromTheKeyboard();
-    void AClickOnAHeadSortsAndKeepsTheSelectedRow();
+    void AClickOnAHeadSortsAndKeepsWhatIsSelected();
     void FiltersLeaveTheRowsTheyLetPass();
     void ACancelledJobGoesOn();
     void DuplicatesAreTakenOffAndPutBack();
@@ -193,7 +193,7 @@ void CollectionWindowTest::RowsAreSelectedAndCopiedFromTheKeyboard() {
     QCOMPARE(Text("LabelWhatFor"), u"For all 10,000 shown:"_s);
 }
 
-void CollectionWindowTest::AClickOnAHeadSortsAndKeepsTheSelectedRow() {
+void CollectionWindowTest::AClickOnAHeadSortsAndKeepsWhatIsSelected() {
     DropMany();
     SelectRow(123);
     ClickHead(TableColumn::Clues);
@@ -210,6 +210,15 @@ void CollectionWindowTest::AClickOnAHeadSortsAndKeepsTheSelectedRow() {
     Find<QComboBox>("ComboOrder").setCurrentText(u"Number"_s);
     Find<QCheckBox>("CheckDescending").click();
     QCOMPARE(Cell(0, TableColumn::Number), u"1"_s);
+    SelectRow(4);
+    QTest::keyClick(&Table(), Qt::Key_Down, Qt::ShiftModifier);
+    ClickHead(TableColumn::Number);
+    QCOMPARE(State().ChosenCount(), 2U);
+    for (const int row : {kMany - 5, kMany - 6}) {
+        QVERIFY(Table().selectionModel()->isRowSelected(row));
+    }
+    QCOMPARE(Cell(kMany - 6, TableColumn::Number), u"6"_s);
+    QCOMPARE(Table().currentIndex().row(), kMany - 6);
 }
 
 void CollectionWindowTest::FiltersLeaveTheRowsTheyLetPass() {
@@ -343,7 +352,8 @@ void CollectionWindowTest::ALayoutIsTriedOutBeforeItIsUsed() {
 }
 
 void CollectionWindowTest::ASudokuOfALevelIsPlayedInSight() {
-    const QRect board = fixture_->window.geometry();
+    const BoardWidget& widget = fixture_->window.Board();
+    const QRect board(widget.mapToGlobal(QPoint()), widget.size());
     Choose("CommandLevel", 0);
     QCOMPARE(State().Level(), 1);
     QVERIFY(Rows().rowCount() > 3);
