@@ -17,10 +17,18 @@ constexpr const char* kMarksAreSimple =
 constexpr const char* kBrushIsArmed =
     "A color is chosen for painting: click it again before you enter numbers";
 
-// A hint was paid for: its explanation stays.
+// What was paid for: the explanation of a hint, or the one line of a report or a simple hint.
+std::string PaidText(const Session& session) {
+    if (session.hint) {
+        return HintText(*session.hint);
+    }
+    const bool isPaid = session.hintSlot != kNoSlot || session.showMe;
+    return isPaid ? session.textHint.substr(0, session.textHint.find('\n')) : "";
+}
+
 void Refuse(Stage& stage, const std::string& why) {
-    Session& session = stage.session;
-    session.textHint = session.hint ? HintText(*session.hint) + "\n" + why : why;
+    const std::string paid = PaidText(stage.session);
+    stage.session.textHint = paid.empty() ? why : paid + "\n" + why;
 }
 
 std::string NumberAt(int digit, int cell, const char* verb) {
@@ -142,7 +150,9 @@ void ClickColorLabel(Stage& stage, int color, MouseButton button) {
 }
 
 void ToggleLinkMode(Stage& stage) {
-    stage.session.links.Toggle();
+    if (!stage.session.IsMaking()) {
+        stage.session.links.Toggle();
+    }
 }
 
 void ToggleDigitFilter(Stage& stage, int digit) {

@@ -133,8 +133,9 @@ void CopyBoard(Stage& stage) {
 }
 
 void GiveTextBack(Session& session) {
-    if (session.hint && session.textHint == DoubleClickText()) {
-        session.textHint = HintText(*session.hint);
+    const std::string placeholder = DoubleClickText();
+    if (session.hint && session.textHint.starts_with(placeholder)) {
+        session.textHint.replace(0, placeholder.size(), HintText(*session.hint));
     }
 }
 

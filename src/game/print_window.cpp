@@ -160,11 +160,19 @@ void PrintWindow::Follow(Stage& stage) {
     if (current == current_ && isCovered == isCovered_) {
         return;
     }
+    const bool wasInRun = IsInRun(current_);
     current_ = std::move(current);
     isCovered_ = isCovered;
-    if (order_.source == PrintSource::Current) {
+    if (order_.source == PrintSource::Current || wasInRun || IsInRun(current_)) {
         Make(stage);
     }
+}
+
+bool PrintWindow::IsInRun(const std::optional<PrintedSudoku>& sudoku) const {
+    return order_.source == PrintSource::Run &&
+           order_.style.content == PrintContent::CurrentState && sudoku &&
+           sudoku->level == order_.level && sudoku->number >= order_.first &&
+           sudoku->number <= order_.last;
 }
 
 void PrintWindow::Make(Stage& stage) {

@@ -59,6 +59,8 @@ class PrintWindow {
     void End() { isOpen_ = false; }
 
   private:
+    // Whether it is printed as it stands in the main window, among others.
+    bool IsInRun(const std::optional<PrintedSudoku>& sudoku) const;
     void Make(Stage& stage);
     void MakeRun(Stage& stage);
 

@@ -123,7 +123,7 @@ Screen MakeFrame(const Stage& stage) {
     screen.sudTekst = session.sudTekst;
     PutBrushes(session, screen);
     PutClock(stage, screen);
-    screen.isLinkMode = session.links.IsOn();
+    screen.isLinkMode = session.links.IsOn() && !session.IsMaking();
     screen.digitFilter = session.digitFilter;
     screen.hintButton = session.showMe ? "Show Me" : "Hint";
     screen.stepText = "Step " + std::to_string(session.history.StepCount());

@@ -100,8 +100,14 @@ Arguments ReadArguments(const QStringList& given) {
     if (!arguments.error.isEmpty()) {
         return arguments;
     }
-    const bool isPrint = arguments.task == Arguments::Task::Print;
-    if (!isPrint && !aboutPages.isEmpty()) {
+    const bool isPrint = arguments.task == Task::Print;
+    const bool isDemo = !arguments.demoFile.isEmpty();
+    if (isPrint && isDemo) {
+        arguments.error = u"--demo does not go with --print"_s;
+    } else if ((isPrint || isDemo) && !arguments.puzzleFile.isEmpty()) {
+        arguments.error = u"%1 takes no file to begin with: '%2'"_s.arg(
+            isPrint ? u"--print"_s : u"--demo"_s, arguments.puzzleFile);
+    } else if (!isPrint && !aboutPages.isEmpty()) {
         arguments.error = u"%1 goes with --print"_s.arg(aboutPages);
     } else if (isPrint && arguments.print.file.isEmpty()) {
         arguments.error = u"--print needs --output FILE.pdf"_s;
@@ -110,7 +116,7 @@ Arguments ReadArguments(const QStringList& given) {
 }
 
 QString UsageText() {
-    return u"Usage: vemosud2 [FILE] [--demo FILE.png | --print LEVEL:NUMBERS --output FILE.pdf]\n"
+    return u"Usage: vemosud2 [FILE | --demo FILE.png | --print LEVEL:NUMBERS --output FILE.pdf]\n"
            u"                [--version] [--help]\n"
            u"\n"
            u"Vemo Sudoku 2, the game in its window.\n"

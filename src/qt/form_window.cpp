@@ -33,8 +33,8 @@ void FormWindow::Open(Keyboard keyboard) {
     }
 }
 
-void FormWindow::GiveWay() {
-    if (frameGeometry().intersects(parentWidget()->geometry())) {
+void FormWindow::GiveWay(const QRect& board) {
+    if (!isMinimized() && frameGeometry().intersects(board)) {
         hide();
     }
 }

@@ -15,8 +15,8 @@ class FormWindow : public QMainWindow {
 
     // Shows it, or brings it to the front.
     void Open(Keyboard keyboard);
-    // Hides it where it covers some of the main window.
-    void GiveWay();
+    // Hides it where it covers some of the board, whose place on the desk this is.
+    void GiveWay(const QRect& board);
 
   protected:
     void closeEvent(QCloseEvent* event) override;

@@ -64,9 +64,9 @@ void Forms::Close(Form form) {
     }
 }
 
-void Forms::GiveWay(Form form) {
+void Forms::GiveWay(Form form, const QRect& board) {
     if (FormWindow* window = WindowOf(form); IsOpen(window)) {
-        window->GiveWay();
+        window->GiveWay(board);
     }
     mainWindow_->activateWindow();
 }

@@ -4,6 +4,7 @@
 #include "game/game.h"
 #include "qt/theme.h"
 
+class QRect;
 class QWidget;
 
 namespace vemo {
@@ -25,8 +26,8 @@ class Forms {
 
     void Open(Form form, Keyboard keyboard, const BoardColors& colors);
     void Close(Form form);
-    // As View::GiveWay.
-    void GiveWay(Form form);
+    // As View::GiveWay; the board's place on the desk.
+    void GiveWay(Form form, const QRect& board);
     // The game's state as it is now, in the windows that are open.
     void ShowScreen(const BoardColors& colors);
     // As View::HintPicture.

@@ -62,6 +62,11 @@ void MainWindow::CloseUnasked() {
     close();
 }
 
+void MainWindow::GiveWay(Form form) {
+    const BoardWidget& board = Board();
+    forms_.GiveWay(form, QRect(board.mapToGlobal(QPoint()), board.size()));
+}
+
 BoardWidget& MainWindow::Board() const {
     return content_->Board();
 }

@@ -35,7 +35,7 @@ class MainWindow final : public QMainWindow {
     // The windows beside this one.
     void OpenForm(Form form, Keyboard keyboard) { forms_.Open(form, keyboard, colors_); }
     void CloseForm(Form form) { forms_.Close(form); }
-    void GiveWay(Form form) { forms_.GiveWay(form); }
+    void GiveWay(Form form);
     Bytes HintPicture() const { return forms_.HintPicture(); }
 
     BoardWidget& Board() const;

@@ -52,6 +52,19 @@ TEST_F(EntryTest, OnlyAStepTakesThePaidHintAway) {
     EXPECT_EQ(session.brushes.CellColor(kA2), 2) << "brush paint stays";
 }
 
+TEST_F(EntryTest, TheWordsOfAReportStayAboveOneRefusal) {
+    Right(kA1, session.puzzle.solution[kA1]);
+    GiveHint(stage);
+    const std::string report = session.textHint;
+    EXPECT_TRUE(report.starts_with("The correct number is no longer shown"));
+    session.selectedCell = kA1;
+    for (int digit : {9, 8}) {
+        AssignBySelection(stage, digit);
+        EXPECT_EQ(session.textHint,
+                  report + "\nNumber " + std::to_string(digit) + " is no candidate at cell A1");
+    }
+}
+
 TEST_F(EntryTest, MarksThatAreNotShownAreLeftAlone) {
     session.selectedCell = kA1;
     const auto expectRefused = [this](const std::string& why) {

@@ -88,6 +88,7 @@ TEST_F(MakerTest, MakeSavesTheGameInProgressAndBeginsAnew) {
     EXPECT_EQ(Seen().status[1], "Number: none");
     EXPECT_EQ(Seen().digitFilter, 0);
     EXPECT_FALSE(Seen().isBrushPointer);
+    EXPECT_FALSE(Seen().isLinkMode);
     for (CommandId off :
          {CommandId::SudokuNext, CommandId::SudokuOpen, CommandId::SudokuSave, CommandId::Level1,
           CommandId::Level9, CommandId::SolveRestart, CommandId::SolveUndo, CommandId::SolveRedo,

@@ -362,6 +362,14 @@ TEST_F(PrintWindowTest, TheCurrentStateIsWhatWasPlayedOrSaved) {
     EXPECT_EQ(shown[1].digits[1], PlainSolution()[1]);
     EXPECT_EQ(shown[2].digits, shown[2].clues);
     EXPECT_EQ(shown[2].marks[0], 0);
+    // The one in play is followed, as far as it can be seen.
+    Assign(2, PlainSolution()[2]);
+    EXPECT_EQ(shown[1].digits[2], PlainSolution()[2]);
+    game->CommandPauseClick();
+    EXPECT_EQ(shown[1].digits, shown[1].clues);
+    EXPECT_EQ(shown[1].marks[0], 0);
+    game->CommandPauseClick();
+    EXPECT_EQ(shown[1].digits[2], PlainSolution()[2]);
     // Without marks on the board there are none on paper.
     game->mnuPencilmarksMode();
     game->PrintChange(order);

@@ -83,6 +83,10 @@ class SystemTest final : public QObject {
         QCOMPARE(ReadArguments({u"one.sdk"_s}).puzzleFile, u"one.sdk"_s);
         QVERIFY(ReadArguments({u"one.sdk"_s, u"two.sdk"_s}).error.contains(u"two.sdk"_s));
         QVERIFY(ReadArguments({u"--demo"_s}).error.contains(u"--demo"_s));
+        const QStringList beside = {u"--demo"_s, u"a.png"_s, u"one.sdk"_s};
+        QVERIFY(ReadArguments(beside).error.contains(u"one.sdk"_s));
+        const QStringList both = {u"--demo"_s, u"a.png"_s, u"--print"_s, u"Easy"_s};
+        QVERIFY(ReadArguments(both).error.contains(u"--print"_s));
         QVERIFY(ReadArguments({u"--dmeo"_s}).error.contains(u"--dmeo"_s));
     }
 
