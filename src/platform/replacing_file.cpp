@@ -22,9 +22,9 @@ constexpr std::chrono::minutes kLongestWrite(10);
 // What a program that was killed while it wrote `target` left beside it.
 void RemoveStale(const fs::path& target) {
     const std::string start = Utf8(target.filename()) + kOfAWriter;
+    const fs::path folder = target.has_parent_path() ? target.parent_path() : ".";
     std::error_code error;
-    for (fs::directory_iterator at(target.parent_path(), error), end; !error && at != end;
-         at.increment(error)) {
+    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
         const std::string name = Utf8(at->path().filename());
         if (!name.starts_with(start) || !name.ends_with(kHalfWritten)) {
             continue;

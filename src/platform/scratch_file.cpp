@@ -49,7 +49,9 @@ std::optional<FileError> ScratchFile::Open() {
     if (!file_) {
         return ErrorOf(folder_, "no temporary file can be made there");
     }
-    std::setvbuf(file_.get(), nullptr, _IOFBF, kBufferSize);
+    // Without a buffer given, the library is free to take a smaller one.
+    buffer_.resize(kBufferSize);
+    std::setvbuf(file_.get(), buffer_.data(), _IOFBF, buffer_.size());
     return std::nullopt;
 }
 

@@ -7,6 +7,7 @@
 #include <mutex>
 #include <optional>
 #include <span>
+#include <vector>
 
 #include "platform/files.h"
 
@@ -33,6 +34,7 @@ class ScratchFile {
 
     mutable std::mutex mutex_;
     std::filesystem::path folder_;
+    std::vector<char> buffer_;  // of the file, which goes first
     std::unique_ptr<std::FILE, Closer> file_;  // made by the first call that appends
     std::uint64_t size_ = 0;
 };
