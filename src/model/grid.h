@@ -12,7 +12,7 @@ namespace vemo {
 // One digit a cell, 0 where it is empty.
 using Digits = std::array<std::uint8_t, kCells>;
 
-// The digit held by a cell pair of one unit twice, if any: such digits have no solution.
+// Whether two cells of one unit hold the same digit: such digits have no solution.
 bool HasClash(const Digits& digits);
 
 // Candidates are held both ways, cell to digits and digit to cells; every change keeps the two
