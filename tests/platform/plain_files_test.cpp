@@ -134,6 +134,13 @@ TEST_F(PlainFilesTest, WhatAKilledProgramLeftHalfWrittenGoesWithTheNextReplace) 
     ASSERT_FALSE(files.Replace(folder / "file", BytesOf("whole")));
     EXPECT_FALSE(files.Size(folder / "file.vemo-1.new"));
     EXPECT_EQ(FilesInFolder(), 4);
+
+    // By its bare name, in the current folder.
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.Path());
+    EXPECT_FALSE(files.Replace("other", BytesOf("whole")));
+    fs::current_path(before);
+    EXPECT_FALSE(files.Size(folder / "other.vemo-1.new"));
 }
 
 TEST_F(PlainFilesTest, TwoProgramsThatReplaceAFileAtOnceDisturbNeither) {
