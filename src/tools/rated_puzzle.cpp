@@ -69,12 +69,15 @@ std::optional<RatedPuzzle> RateBy(const Ladder& ladder, const PuzzleRecord& puzz
 
 bool NeedsTechnique(const RatedPuzzle& rated, int slot, Ladder ladder,
                     const std::stop_token& stop) {
+    if (rated.rating == kOutlaw || slot > rated.hardestSlot) {
+        return false;
+    }
     std::erase_if(ladder, [&](const LadderStep& at) {
         return at.step->slot == slot || at.step->slot > rated.hardestSlot;
     });
     Solver solver(Grid::FromClues(rated.puzzle.clues));
     Heed(stop, solver);
-    return slot <= rated.hardestSlot && !RunToTheEnd(solver, ladder) && !solver.IsStopped();
+    return !RunToTheEnd(solver, ladder) && !solver.IsStopped();
 }
 
 bool IsGentler(const RatedPuzzle& a, const RatedPuzzle& b) {

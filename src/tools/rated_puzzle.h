@@ -32,7 +32,8 @@ std::optional<RatedPuzzle> RateUpTo(const PuzzleRecord& puzzle, int level,
                                     const std::stop_token& stop = {});
 
 // Whether the ladder that the puzzle was rated by, up to its hardest technique, does not solve it
-// without this one. False where the stop was asked for.
+// without this one. False where that ladder leads to no solution, so that nothing is to be lost by
+// leaving one out, and where the stop was asked for.
 bool NeedsTechnique(const RatedPuzzle& rated, int slot, Ladder ladder,
                     const std::stop_token& stop = {});
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "solver/brute_force.h"
+#include "support/puzzles.h"
 #include "tools/canonical.h"
 
 namespace vemo {
@@ -114,6 +115,15 @@ TEST(Generator, KeepsToWhatIsWished) {
     for (const RatedPuzzle& rated : run.puzzles) {
         EXPECT_TRUE(NeedsTechnique(rated, kSkyscraper, FixedLadder()));
         EXPECT_FALSE(NeedsTechnique(rated, rated.hardestSlot + 1, FixedLadder()));
+    }
+}
+
+// Whatever is left out, the ladder does not solve it.
+TEST(NeedsTechnique, AnOutlawNeedsNone) {
+    const RatedPuzzle outlaw = Rate({test::ParseDigits(test::kOutlawed), {}, {}});
+    ASSERT_EQ(outlaw.rating, kOutlaw);
+    for (int slot = kFirstTechniqueSlot; slot < kSlots; ++slot) {
+        EXPECT_FALSE(NeedsTechnique(outlaw, slot, FixedLadder())) << slot;
     }
 }
 
