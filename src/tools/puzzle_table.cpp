@@ -6,7 +6,8 @@
 namespace vemo {
 namespace {
 
-constexpr int kMost13Bits = (1 << 13) - 1;
+constexpr int kMostSteps = (1 << 10) - 1;
+constexpr int kMostSeconds = (1 << 16) - 1;
 constexpr int kSymmetryShift = 1;  // bit 0 of the facts is that of no symmetry, and never set
 
 Digits Unpacked(std::span<const std::uint8_t> packed) {
@@ -39,11 +40,11 @@ ClueFacts TableRow::Facts() const {
 void TableRow::SetRating(const RatedPuzzle& rated) {
     level_ = static_cast<unsigned>(rated.rating) & 0xF;
     slot_ = static_cast<unsigned>(std::max(rated.hardestSlot, 0)) & 0x3F;
-    steps_ = static_cast<unsigned>(std::min(rated.steps, kMost13Bits)) & 0x1FFF;
+    steps_ = static_cast<unsigned>(std::min(rated.steps, kMostSteps)) & 0x3FF;
 }
 
 void TableRow::SetBest(const PlayTime& best) {
-    best_ = static_cast<unsigned>(std::min(best.InSeconds(), kMost13Bits)) & 0x1FFF;
+    best_ = static_cast<unsigned>(std::min(best.InSeconds(), kMostSeconds)) & 0xFFFF;
 }
 
 void TableRow::SetNote(RowNote note, std::uint32_t other) {

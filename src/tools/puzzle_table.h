@@ -69,8 +69,8 @@ class TableRow {
     std::uint32_t needs_ : 2 = 0;
     std::uint32_t isRemoved_ : 1 = 0;
     std::uint32_t slot_ : 6 = 0;
-    std::uint32_t steps_ : 13 = 0;
-    std::uint32_t best_ : 13 = 0;  // seconds
+    std::uint32_t steps_ : 10 = 0;  // each takes one of 729 candidates, or more
+    std::uint32_t best_ : 16 = 0;   // seconds, up to 18 hours
     std::uint32_t other_ = 0;
 };
 static_assert(sizeof(TableRow) == 12);

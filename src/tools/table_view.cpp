@@ -11,7 +11,7 @@ namespace vemo {
 namespace {
 
 // All keys are smaller: rows are sorted by counting.
-constexpr std::size_t kKeys = std::size_t{1} << 13;
+constexpr std::size_t kKeys = std::size_t{1} << 16;
 
 bool IsOfKind(const TableRow& row, RowKind kind) {
     const bool isTwin = row.Note() == RowNote::Exact || row.Note() == RowNote::Equivalent;
