@@ -150,6 +150,9 @@ CommandResult Dedupe::Run() {
     if (!Write(second, duplicates) || !second.IsFine()) {
         return {ExitCode::InputOutput};
     }
+    if (streams_.isInterrupted()) {
+        return {ExitCode::Interrupted};
+    }
     return {hasFaults_ ? ExitCode::FaultyLine : ExitCode::Fine};
 }
 

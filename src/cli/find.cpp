@@ -207,7 +207,6 @@ CommandResult RunFind(const Arguments& arguments, Streams& streams) {
                               const std::vector<Find> finds = Search(read.grid, target, amount);
                               return {isJson ? AsJson(line.number, finds) : AsText(finds, amount)};
                           });
-    ;
 }
 
 std::string Notes() {

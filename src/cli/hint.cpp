@@ -49,7 +49,6 @@ CommandResult Hint(const Arguments& arguments, Streams& streams) {
             return {isJson ? AsJson(line.number, HintTitle(find), HintText(find), find)
                            : AsText(find)};
         });
-    ;
 }
 
 }  // namespace
