@@ -37,8 +37,9 @@ std::string Notes() {
            "or both. Every puzzle has exactly one solution. The same options make the same\n"
            "files, with any number of threads; without --levels and with --seed 2026 those of\n"
            "the game, in about half an hour. Where the puzzles of a level are too rare for so\n"
-           "many tries, its file stays short. A folder with a player's progress in it is left\n"
-           "alone. Tells of each file that it wrote the name TAB the number of puzzles.\n"
+           "many tries, its file stays short, and the exit code is 1. A folder with a player's\n"
+           "progress in it is left alone. Tells of each file that it wrote the name TAB the\n"
+           "number of puzzles. An interrupt leaves all files as they are.\n"
            "\n" +
            std::string(kLevelCountsNotes);
 }
@@ -75,12 +76,13 @@ std::string ReadOrder(const Arguments& arguments, Order& order) {
     return error;
 }
 
-MakerProgress ProgressOn(Progress& progress, const char* what) {
-    return [&progress, what](int made, int wanted) {
+MakerProgress ProgressOn(Progress& progress, const Streams& streams, const char* what) {
+    return [&progress, &streams, what](int made, int wanted) {
         if (progress.IsDue()) {
             progress.Show(std::string(what) + ": " + std::to_string(made) + " of " +
                           std::to_string(wanted) + " puzzles");
         }
+        return !streams.isInterrupted();
     };
 }
 
@@ -126,21 +128,26 @@ ExitCode WriteLevels(Streams& streams, Progress& progress, const Order& order,
     if (const auto error = files.MakeFolder(folder)) {
         return Failure(streams, *error);
     }
-    const LevelPuzzles levels = MakeLevels(order.levels, ProgressOn(progress, "Levels"));
+    const auto levels = MakeLevels(order.levels, ProgressOn(progress, streams, "Levels"));
     progress.Clear();
+    if (!levels) {
+        return ExitCode::Interrupted;
+    }
+    ExitCode worst = ExitCode::Fine;
     for (int level = 1; level <= kLevels; ++level) {
-        const auto& puzzles = levels[static_cast<std::size_t>(level) - 1];
+        const auto& puzzles = (*levels)[static_cast<std::size_t>(level) - 1];
         const int wanted = order.levels.counts[static_cast<std::size_t>(level) - 1];
         if (puzzles.size() < static_cast<std::size_t>(wanted)) {
             Tell(streams, "level " + std::string(LevelName(level)) +
                               " stays short: " + std::to_string(puzzles.size()) + " puzzles");
+            worst = ExitCode::FaultyLine;
         }
         const ExitCode code = WriteLevel(streams, files, records.PuzzlePath(level), puzzles);
         if (code != ExitCode::Fine) {
             return code;
         }
     }
-    return ExitCode::Fine;
+    return worst;
 }
 
 // Devices and links are not: the new file would take their place.
@@ -155,17 +162,21 @@ ExitCode WriteCorpus(Streams& streams, Progress& progress, const Order& order,
     if (!MayBeReplaced(path)) {
         return Failure(streams, {path, "is no regular file"});
     }
+    const auto corpus =
+        MakeCorpus(order.levels.seed, order.corpusCount, ProgressOn(progress, streams, "List"));
+    progress.Clear();
+    if (!corpus) {
+        return ExitCode::Interrupted;
+    }
     const std::string count = std::to_string(order.corpusCount);
     std::string text =
         "# " + count +
         " puzzles with one solution each: Easy, Medium, Hard and harder in turn. By\n"
         "# vemosud make-levels --corpus FILE --corpus-count " +
         count + " --seed " + std::to_string(order.levels.seed) + "\n";
-    for (const Digits& clues :
-         MakeCorpus(order.levels.seed, order.corpusCount, ProgressOn(progress, "List"))) {
+    for (const Digits& clues : *corpus) {
         text += WriteGrid81(clues) + '\n';
     }
-    progress.Clear();
     PlainFiles files;
     if (const auto error = files.Replace(path, Bytes(text.begin(), text.end()))) {
         return Failure(streams, *error);
@@ -184,8 +195,8 @@ CommandResult RunMakeLevels(const Arguments& arguments, Streams& streams) {
         code = WriteLevels(streams, progress, order, *folder);
     }
     const auto corpus = arguments.ValueOf(kCorpusOption.name);
-    if (corpus && code == ExitCode::Fine) {
-        code = WriteCorpus(streams, progress, order, *corpus);
+    if (corpus && code <= ExitCode::FaultyLine) {
+        code = std::max(code, WriteCorpus(streams, progress, order, *corpus));
     }
     return {code};
 }

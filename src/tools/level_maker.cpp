@@ -2,6 +2,7 @@
 #include "tools/level_maker.h"
 
 #include <algorithm>
+#include <numeric>
 #include <set>
 
 #include "tools/canonical.h"
@@ -30,17 +31,25 @@ class LevelMaker {
     LevelMaker(const LevelSettings& settings, const MakerProgress& progress)
         : settings_(settings), progress_(progress) {}
 
-    void Make(Symmetry symmetry);
+    // Answers whether to go on.
+    bool Make(Symmetry symmetry);
     LevelPuzzles Sorted();
 
   private:
+    bool MayGoOn() const;
+
     const LevelSettings& settings_;
     const MakerProgress& progress_;
     std::array<std::vector<RatedPuzzle>, kLevels> levels_;
     std::set<Digits> known_;  // canonical forms
 };
 
-void LevelMaker::Make(Symmetry symmetry) {
+bool LevelMaker::MayGoOn() const {
+    const int wanted = std::accumulate(settings_.counts.begin(), settings_.counts.end(), 0);
+    return !progress_ || progress_(static_cast<int>(known_.size()), wanted);
+}
+
+bool LevelMaker::Make(Symmetry symmetry) {
     GeneratorSettings order;
     order.seed = settings_.seed;
     order.symmetry = symmetry;
@@ -50,7 +59,7 @@ void LevelMaker::Make(Symmetry symmetry) {
         order.wanted[static_cast<std::size_t>(level)] = ShareOf(symmetry, level, count);
     }
     if (!SettingsError(order).empty()) {
-        return;  // nothing of this symmetry is wanted
+        return true;  // nothing of this symmetry is wanted
     }
     Generator generator(order, settings_.threads, known_);
     bool isOver = false;
@@ -61,14 +70,11 @@ void LevelMaker::Make(Symmetry symmetry) {
             levels_[static_cast<std::size_t>(rated.rating) - 1].push_back(rated);
             known_.insert(CanonicalForm(rated.puzzle.clues, rated.puzzle.solution));
         }
-        if (progress_) {
-            int wanted = 0;
-            for (int count : settings_.counts) {
-                wanted += count;
-            }
-            progress_(static_cast<int>(known_.size()), wanted);
+        if (!MayGoOn()) {
+            return false;
         }
     }
+    return true;
 }
 
 LevelPuzzles LevelMaker::Sorted() {
@@ -101,15 +107,19 @@ PuzzleRecord CorpusPuzzle(ClueRange clues, Random& random) {
 
 }  // namespace
 
-LevelPuzzles MakeLevels(const LevelSettings& settings, const MakerProgress& progress) {
+std::optional<LevelPuzzles> MakeLevels(const LevelSettings& settings,
+                                       const MakerProgress& progress) {
     LevelMaker maker(settings, progress);
     for (const SymmetryRow& row : Symmetries()) {
-        maker.Make(row.symmetry);
+        if (!maker.Make(row.symmetry)) {
+            return std::nullopt;
+        }
     }
     return maker.Sorted();
 }
 
-std::vector<Digits> MakeCorpus(std::uint64_t seed, int count, const MakerProgress& progress) {
+std::optional<std::vector<Digits>> MakeCorpus(std::uint64_t seed, int count,
+                                              const MakerProgress& progress) {
     Random random(seed ^ kCorpusStream);
     std::vector<Digits> corpus;
     std::set<Digits> known;
@@ -122,8 +132,8 @@ std::vector<Digits> MakeCorpus(std::uint64_t seed, int count, const MakerProgres
         if (std::min(rating, kSorts) == sort && known.insert(puzzle.clues).second) {
             corpus.push_back(puzzle.clues);
         }
-        if (progress) {
-            progress(static_cast<int>(corpus.size()), count);
+        if (progress && !progress(static_cast<int>(corpus.size()), count)) {
+            return std::nullopt;
         }
     }
     return corpus;

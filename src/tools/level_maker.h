@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "model/levels.h"
@@ -26,15 +27,19 @@ struct LevelSettings {
 // By level - 1, from gentle to hard.
 using LevelPuzzles = std::array<std::vector<PuzzleRecord>, kLevels>;
 
-// Told now and then how many puzzles stand and how many are wanted.
-using MakerProgress = std::function<void(int made, int wanted)>;
+// Told now and then how many puzzles stand and how many are wanted; answers whether to go on.
+using MakerProgress = std::function<bool(int made, int wanted)>;
 
 // Half of the puzzles of the first five levels have a symmetry, each of the six as often. No two
 // are equivalent. The same settings make the same puzzles, with any number of threads. A level
-// stays short where its kind of puzzle is too rare for so many tries.
-LevelPuzzles MakeLevels(const LevelSettings& settings, const MakerProgress& progress = {});
+// stays short where its kind of puzzle is too rare for so many tries. Nothing where it was not to
+// go on.
+std::optional<LevelPuzzles> MakeLevels(const LevelSettings& settings,
+                                       const MakerProgress& progress = {});
 
-// Puzzles of the levels 1, 2, 3 and above in turn, all different.
-std::vector<Digits> MakeCorpus(std::uint64_t seed, int count, const MakerProgress& progress = {});
+// Puzzles of the levels 1, 2, 3 and above in turn, all different. Nothing where it was not to go
+// on.
+std::optional<std::vector<Digits>> MakeCorpus(std::uint64_t seed, int count,
+                                              const MakerProgress& progress = {});
 
 }  // namespace vemo

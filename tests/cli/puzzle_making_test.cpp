@@ -140,13 +140,28 @@ TEST_F(PuzzleMaking, MakeLevelsSparesAPlayersFolder) {
     const std::vector<std::string> words = {"make-levels", "--levels=1:1,9:1", "--tries=20",
                                             "--output", folder_.Path().string()};
     const Outcome made = Invoke(words);
-    EXPECT_EQ(made.code, ExitCode::Fine);
+    EXPECT_EQ(made.code, ExitCode::FaultyLine) << "a puzzle is missing";
     EXPECT_EQ(LineCount(made.out), kLevels);
     EXPECT_NE(made.err.find("level Outlaw stays short: 0 puzzles"), std::string::npos);
     EXPECT_FALSE(records_.CreateProgressFile(4, 2).has_value());
     const Outcome refused = Invoke(words);
     EXPECT_EQ(refused.code, ExitCode::InputOutput);
     EXPECT_NE(refused.err.find("progress"), std::string::npos);
+}
+
+TEST_F(PuzzleMaking, AnInterruptEndsMakeLevelsWithNothingWritten) {
+    for (const std::vector<std::string>& words :
+         {std::vector<std::string>{"make-levels", "--levels=1:100000", "--output",
+                                   folder_.Path().string(), "--corpus", Path("list.txt")},
+          {"make-levels", "--corpus", Path("list.txt"), "--corpus-count=100000"}}) {
+        std::istringstream in;
+        std::ostringstream out;
+        Streams streams{in, out, out};
+        streams.isInterrupted = [] { return true; };
+        EXPECT_EQ(RunProgram(words, streams), ExitCode::Interrupted);
+        EXPECT_EQ(out.str(), "");
+        EXPECT_TRUE(std::filesystem::is_empty(folder_.Path()));
+    }
 }
 
 // The list that the tests take their puzzles from can be made again.
