@@ -3,6 +3,7 @@
 
 #include <span>
 
+#include "cli/time_limit.h"
 #include "model/levels.h"
 #include "solver/catalogue.h"
 #include "solver/text.h"
@@ -31,6 +32,10 @@ std::string List(std::span<const CellDigit> effects) {
 
 std::string_view SolutionCountWord(int count) {
     return count == 1 ? "unique" : count == 0 ? "none" : "multiple";
+}
+
+std::string_view AnswerWord(const BruteForceResult& result) {
+    return result.stopped ? kTimeout : SolutionCountWord(result.solutionCount);
 }
 
 std::string EffectLines(const Find& find) {

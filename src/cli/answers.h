@@ -5,12 +5,15 @@
 #include <string_view>
 
 #include "cli/json.h"
+#include "solver/brute_force.h"
 #include "solver/find.h"
 
 namespace vemo {
 
 // Of solutions counted to two: "unique", "none" or "multiple".
 std::string_view SolutionCountWord(int count);
+// The same of a search, or that it was given up.
+std::string_view AnswerWord(const BruteForceResult& result);
 
 // What a rating says of a puzzle.
 struct RatingFields {

@@ -3,7 +3,6 @@
 #include "cli/commands.h"
 #include "cli/json.h"
 #include "cli/line_loop.h"
-#include "cli/resume.h"
 #include "solver/fast_count.h"
 #include "tools/puzzle_line.h"
 
@@ -19,6 +18,15 @@ std::string Notes() {
            std::string(kResumeNotes).append(kPuzzleNotes).append(kListNotes);
 }
 
+std::string Row(const InputLine& line, const std::string& puzzle, int count, bool isJson) {
+    const std::string word(SolutionCountWord(count));
+    if (!isJson) {
+        return puzzle + '\t' + word + '\n';
+    }
+    JsonObject object;
+    return object.Add("line", line.number).Add("puzzle", puzzle).Add("result", word).Line();
+}
+
 CommandResult RunCheck(const Arguments& arguments, Streams& streams) {
     const bool isJson = arguments.Has(kJsonlOption.name);
     const auto check = [=](const InputLine& line) -> Answer {
@@ -27,17 +35,19 @@ CommandResult RunCheck(const Arguments& arguments, Streams& streams) {
             return Refusal(read.error);
         }
         const SolutionCount solutions = FastCount(read.clues);
-        const std::string puzzle = WriteGrid81(read.clues);
-        const std::string word(SolutionCountWord(solutions.count));
-        const bool isFaulty = !solutions.IsUnique();
-        if (isJson) {
-            JsonObject object;
-            object.Add("line", line.number).Add("puzzle", puzzle).Add("result", word);
-            return {object.Line(), "", isFaulty};
-        }
-        return {puzzle + '\t' + word + '\n', "", isFaulty};
+        return {Row(line, WriteGrid81(read.clues), solutions.count, isJson), "",
+                !solutions.IsUnique()};
     };
-    return AnswerEachLine(arguments, streams, Working::AtOnce, check);
+    const auto rowBeginnings = [=](const InputLine& line) {
+        const std::string puzzle = WriteGrid81(ReadPuzzleLine(line.text).clues);
+        RowBeginnings beginnings;
+        for (int count : {0, 1, 2}) {
+            beginnings.push_back({Row(line, puzzle, count, isJson), count != 1});
+        }
+        return beginnings;
+    };
+    return AnswerEachLine(arguments, streams, Working::AtOnce, check,
+                          {.rowBeginnings = rowBeginnings});
 }
 
 }  // namespace

@@ -22,6 +22,8 @@ class JsonObject {
 
     std::string Text() const { return "{" + fields_ + "}"; }
     std::string Line() const { return Text() + '\n'; }
+    // The text of an object that has these fields and more behind them.
+    std::string Beginning() const { return "{" + fields_ + ","; }
 
   private:
     std::string fields_;

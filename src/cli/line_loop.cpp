@@ -6,7 +6,6 @@
 
 #include "cli/line_source.h"
 #include "cli/progress.h"
-#include "cli/resume.h"
 #include "tools/ordered_work.h"
 #include "tools/puzzle_line.h"
 
@@ -37,39 +36,61 @@ Answers AnswersTo(const Lines& lines, const AnswerToLine& answer) {
 
 class Loop {
   public:
-    Loop(LineSource& source, Streams& streams, bool showsProgress)
-        : source_(source), streams_(streams), progress_(streams.err, showsProgress) {}
+    Loop(LineSource& source, Streams& streams, const AnswerToLine& answer, const LoopExtras& extras,
+         bool showsProgress)
+        : source_(source),
+          streams_(streams),
+          answer_(answer),
+          extras_(extras),
+          header_(extras.header),
+          progress_(streams.err, showsProgress) {}
 
-    // Passes over the lines that have their rows; the next Run begins behind them.
+    // Passes over the lines that have their rows, and tells what is wrong with those that have
+    // none; the next Run begins behind them.
     bool PassOver(Resume& resume);
 
-    ExitCode Run(int threads, const AnswerToLine& answer);
+    ExitCode Run(int threads);
 
   private:
     bool Give(const Answers& answers);
+    bool Write(std::string_view text);
 
     LineSource& source_;
     Streams& streams_;
+    const AnswerToLine& answer_;
+    const LoopExtras& extras_;
+    std::string_view header_;  // as long as it is not written
     Progress progress_;
     std::optional<Lines> behindRows_;
     ExitCode code_ = ExitCode::Fine;
 };
 
 bool Loop::PassOver(Resume& resume) {
-    while (auto lines = source_.Next(1)) {
-        const PuzzleLine read = ReadPuzzleLine(lines->front().text);
-        if (read.IsPuzzle() && !resume.Has(WriteGrid81(read.clues))) {
-            behindRows_ = std::move(lines);
+    std::optional<Lines> lines;
+    while ((lines = source_.Next(1))) {
+        const Line& line = lines->front();
+        if (line.isTooLong || !ReadPuzzleLine(line.text).IsPuzzle()) {
+            Give(AnswersTo(*lines, answer_));
+            continue;
+        }
+        const auto row = resume.Next(extras_.rowBeginnings({line.number, line.text}));
+        if (!row) {
             break;
         }
+        code_ = row->isFaulty ? ExitCode::FaultyLine : code_;
     }
+    if (!lines && !streams_.isInterrupted()) {
+        resume.Next({});  // no row is left
+    }
+    behindRows_ = std::move(lines);
+    resume.GoOn();
     if (!resume.Error().empty()) {
         Tell(streams_, resume.Error());
     }
     return resume.Error().empty();
 }
 
-ExitCode Loop::Run(int threads, const AnswerToLine& answer) {
+ExitCode Loop::Run(int threads) {
     bool isWritten = true;
     OrderedWork<Lines, Answers> work;
     work.next = [&] {
@@ -77,7 +98,7 @@ ExitCode Loop::Run(int threads, const AnswerToLine& answer) {
                            : source_.Next(threads > 1 ? kLinesAtOnce : 1);
     };
     work.work = [&](const Lines& lines, const std::stop_token&) {
-        return AnswersTo(lines, answer);
+        return AnswersTo(lines, answer_);
     };
     work.give = [&](const Lines&, Answers&& answers) {
         isWritten = Give(answers);
@@ -85,7 +106,7 @@ ExitCode Loop::Run(int threads, const AnswerToLine& answer) {
     };
     RunInOrder(threads, work);
     progress_.Clear();
-    if (!source_.IsFine() || !isWritten) {
+    if (!source_.IsFine() || !isWritten || !Write(extras_.footer)) {
         return ExitCode::InputOutput;
     }
     return streams_.isInterrupted() ? ExitCode::Interrupted : code_;
@@ -106,13 +127,19 @@ bool Loop::Give(const Answers& answers) {
     if (progress_.IsDue()) {
         progress_.Show(std::to_string(answers.back().number) + " lines");
     }
-    return text.empty() || WriteResult(streams_, text);
+    return Write(text);
+}
+
+bool Loop::Write(std::string_view text) {
+    const std::string whole = std::string(std::exchange(header_, {})).append(text);
+    return whole.empty() || WriteResult(streams_, whole);
 }
 
 }  // namespace
 
 CommandResult AnswerEachLine(const Arguments& arguments, Streams& streams, Working working,
-                             const std::function<Answer(const InputLine&)>& answer) {
+                             const std::function<Answer(const InputLine&)>& answer,
+                             const LoopExtras& extras) {
     LineSource source(arguments.operands.front(), streams);
     std::string error;
     const std::optional<int> threads = source.Threads(arguments, error);
@@ -126,13 +153,13 @@ CommandResult AnswerEachLine(const Arguments& arguments, Streams& streams, Worki
     const int used = working == Working::AtOnce ? *threads : 1;
     const auto results = arguments.ValueOf(kResumeOption.name);
     if (!results) {
-        return {Loop(source, streams, showsProgress).Run(used, answer)};
+        return {Loop(source, streams, answer, extras, showsProgress).Run(used)};
     }
     Resume resume{std::string(*results)};
     Streams intoFile{streams.in, resume.Out(), streams.err, streams.showsProgress,
                      streams.isInterrupted};
-    Loop loop(source, intoFile, showsProgress);
-    return {loop.PassOver(resume) ? loop.Run(used, answer) : ExitCode::InputOutput};
+    Loop loop(source, intoFile, answer, extras, showsProgress);
+    return {loop.PassOver(resume) ? loop.Run(used) : ExitCode::InputOutput};
 }
 
 }  // namespace vemo

@@ -4,8 +4,8 @@
 #include "cli/json.h"
 #include "cli/ladder_options.h"
 #include "cli/line_loop.h"
-#include "cli/resume.h"
 #include "cli/time_limit.h"
+#include "model/levels.h"
 #include "solver/brute_force.h"
 #include "solver/solver.h"
 #include "tools/puzzle_line.h"
@@ -51,7 +51,7 @@ Rating Rate(const Digits& clues, const Order& order) {
     const BruteForceResult known = BruteForceSolve(clues, hasTime);
     Rating rating;
     if (!known.IsUnique()) {
-        rating.fields.name = known.stopped ? kTimeout : SolutionCountWord(known.solutionCount);
+        rating.fields.name = AnswerWord(known);
         return rating;
     }
     Solver solver(Grid::FromClues(clues));
@@ -112,6 +112,25 @@ Answer AnswerTo(const InputLine& line, const Order& order, bool isJson) {
     return answer;
 }
 
+RowBeginnings RowBeginningsOf(const InputLine& line, bool isJson) {
+    const std::string puzzle = WriteGrid81(ReadPuzzleLine(line.text).clues);
+    RowBeginnings beginnings;
+    const auto add = [&](int level, std::string_view name) {
+        JsonObject object;
+        object.Add("line", line.number).Add("puzzle", puzzle);
+        object.Add("level", level).Add("name", name);
+        const std::string text = puzzle + '\t' + std::to_string(level) + '\t' + std::string(name);
+        beginnings.push_back({isJson ? object.Beginning() : text + '\t', level == 0});
+    };
+    for (int level = 1; level <= kLevels; ++level) {
+        add(level, LevelName(level));
+    }
+    for (std::string_view name : {SolutionCountWord(0), SolutionCountWord(2), kTimeout}) {
+        add(0, name);
+    }
+    return beginnings;
+}
+
 CommandResult RunRate(const Arguments& arguments, Streams& streams) {
     const bool isJson = arguments.Has(kJsonlOption.name);
     const bool hasLog = arguments.Has(kLogOption.name);
@@ -126,8 +145,10 @@ CommandResult RunRate(const Arguments& arguments, Streams& streams) {
     if (const std::string error = ReadTimeLimit(arguments, order.seconds); !error.empty()) {
         return UsageError(error);
     }
-    return AnswerEachLine(arguments, streams, Working::AtOnce,
-                          [&](const InputLine& line) { return AnswerTo(line, order, isJson); });
+    return AnswerEachLine(
+        arguments, streams, Working::AtOnce,
+        [&](const InputLine& line) { return AnswerTo(line, order, isJson); },
+        {.rowBeginnings = [=](const InputLine& line) { return RowBeginningsOf(line, isJson); }});
 }
 
 }  // namespace

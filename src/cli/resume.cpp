@@ -1,76 +1,65 @@
 // Results of an earlier run.
 #include "cli/resume.h"
 
-#include <algorithm>
-#include <array>
 #include <cerrno>
-#include <cstdint>
 #include <filesystem>
 #include <ios>
 
 namespace vemo {
-namespace {
-
-// The length of the file up to its last line end; nothing where it cannot be read.
-std::optional<std::uint64_t> WholeLength(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::array<char, 65536> piece;
-    std::uint64_t length = 0;
-    std::uint64_t whole = 0;
-    while (file.read(piece.data(), piece.size()) || file.gcount() > 0) {
-        const auto end = piece.begin() + file.gcount();
-        const auto last = std::find(std::make_reverse_iterator(end), piece.rend(), '\n');
-        if (last != piece.rend()) {
-            whole = length + static_cast<std::uint64_t>(piece.rend() - last);
-        }
-        length += static_cast<std::uint64_t>(file.gcount());
-    }
-    return file.is_open() && !file.bad() ? std::optional(whole) : std::nullopt;
-}
-
-}  // namespace
 
 Resume::Resume(const std::string& path) : path_(path) {
     std::error_code error;
     const auto status = std::filesystem::status(path, error);
-    if (std::filesystem::exists(status)) {
-        if (!std::filesystem::is_regular_file(status)) {
-            error_ = path_ + " is no regular file";
-            return;
-        }
-        CutOff();
-    }
-    errno = 0;
-    out_.open(path, std::ios::binary | std::ios::app);
-    if (error_.empty() && !out_) {
-        error_ = path_ + " cannot be written" + SystemReason();
-    }
-    rows_.open(path, std::ios::binary);
-}
-
-void Resume::CutOff() {
-    errno = 0;
-    const std::optional<std::uint64_t> length = WholeLength(path_);
-    std::error_code error;
-    if (!length) {
-        error_ = path_ + " cannot be read" + SystemReason();
+    if (!std::filesystem::exists(status)) {
         return;
     }
-    std::filesystem::resize_file(path_, *length, error);
-    if (error) {
-        error_ = path_ + " cannot be written: " + error.message();
+    if (!std::filesystem::is_regular_file(status)) {
+        error_ = path_ + " is no regular file";
+        return;
+    }
+    errno = 0;
+    rows_.open(path, std::ios::binary);
+    if (!rows_) {
+        error_ = path_ + " cannot be read" + SystemReason();
     }
 }
 
-bool Resume::Has(const std::string& puzzle) {
+std::optional<RowBeginning> Resume::Next(const RowBeginnings& beginnings) {
     std::string row;
-    if (!error_.empty() || !std::getline(rows_, row)) {
-        return false;
+    errno = 0;
+    if (!error_.empty() || !rows_.is_open() || !std::getline(rows_, row)) {
+        error_ = rows_.bad() ? path_ + " cannot be read" + SystemReason() : error_;
+        return std::nullopt;
     }
-    if (row.find(puzzle) == row.npos) {
-        error_ = path_ + " holds the results of another list, or of another command: " + row;
+    const bool isWhole = !rows_.eof();
+    row += isWhole ? "\n" : "";
+    for (const RowBeginning& beginning : beginnings) {
+        if (isWhole && row.starts_with(beginning.text)) {
+            wholeLength_ += row.size();
+            return beginning;
+        }
+        if (!isWhole && (row.starts_with(beginning.text) || beginning.text.starts_with(row))) {
+            hasCutRow_ = true;
+            return std::nullopt;
+        }
     }
-    return error_.empty();
+    error_ = path_ + " holds the results of another list, or of another command: " + row;
+    return std::nullopt;
+}
+
+void Resume::GoOn() {
+    std::error_code error;
+    if (!error_.empty()) {
+        return;
+    }
+    if (hasCutRow_) {
+        std::filesystem::resize_file(path_, wholeLength_, error);
+    }
+    errno = 0;
+    out_.open(path_, std::ios::binary | std::ios::app);
+    if (error || !out_) {
+        error_ = path_ + " cannot be written" + (error ? ": " + error.message() : SystemReason());
+    }
 }
 
 }  // namespace vemo

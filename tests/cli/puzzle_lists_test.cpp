@@ -1,9 +1,11 @@
 // The commands over whole lists: check, filter, dedupe, and several threads.
 #include <fstream>
+#include <iterator>
 
 #include <gtest/gtest.h>
 
 #include "cli/invoke.h"
+#include "support/puzzles.h"
 #include "support/temp_folder.h"
 #include "tools/puzzle_filter.h"
 #include "tools/puzzle_line.h"
@@ -31,6 +33,12 @@ class PuzzleLists : public testing::Test {
             file << line << '\n';
         }
         return path;
+    }
+
+    std::string Results() { return (folder_ / "results").string(); }
+    std::string Content() {
+        std::ifstream file(Results(), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
     }
 
     test::TempFolder folder_;
@@ -141,32 +149,75 @@ TEST_F(PuzzleLists, DedupeKeepsTheFirstOfEach) {
     EXPECT_EQ(Invoke({"dedupe", "-"}, all[0]).code, ExitCode::InputOutput);
 }
 
+TEST_F(PuzzleLists, DedupeTellsOfAnInterruptWhereverItComes) {
+    std::vector<std::string> lines = LinesOf(Invoke({"filter", kCorpus}).out);
+    lines.resize(8);
+    const std::string list = WrittenList(lines);
+    const std::string whole = Invoke({"dedupe", list}).out;
+    static int left;
+    int interrupted = 0;
+    for (ExitCode code = ExitCode::Interrupted; code == ExitCode::Interrupted; ++interrupted) {
+        std::istringstream in;
+        std::ostringstream out;
+        std::ostringstream err;
+        Streams streams{in, out, err};
+        left = interrupted;
+        streams.isInterrupted = [] { return --left < 0; };
+        code = RunProgram(std::vector<std::string>{"dedupe", "--threads=1", list}, streams);
+        ASSERT_TRUE(code == ExitCode::Interrupted || out.str() == whole) << interrupted;
+    }
+    EXPECT_GT(interrupted, 16) << "both passes were interrupted";
+}
+
 TEST_F(PuzzleLists, ARunThatWasCutShortIsResumed) {
-    const auto content = [](const std::string& path) {
-        std::ifstream file(path, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(file), {});
-    };
     std::vector<std::string> lines = LinesOf(Invoke({"filter", kCorpus}).out);
     lines.resize(12);
     lines[2] = "junk";
+    lines[4] = std::string(81, '.');
     const std::string list = WrittenList(lines);
-    const std::string results = (folder_ / "results").string();
-    for (const char* format : {"--threads=2", "--jsonl"}) {
-        const std::string whole = Invoke({"rate", format, list}).out;
+    for (const std::vector<std::string>& words : {std::vector<std::string>{"rate", "--threads=2"},
+                                                  {"rate", "--jsonl", "--log"},
+                                                  {"check"},
+                                                  {"check", "--jsonl"},
+                                                  {"solve"},
+                                                  {"solve", "--jsonl"},
+                                                  {"solve", "--report"}}) {
+        const auto run = [&](std::vector<std::string> more) {
+            more.insert(more.begin(), words.begin(), words.end());
+            return Invoke(more);
+        };
+        const Outcome whole = run({list});
         // Cut off between rows, within one, at the very beginning, and not at all.
-        for (std::size_t length : {whole.size() / 2, whole.find('\n') + 1, std::size_t{0},
-                                   std::size_t{5}, whole.size()}) {
-            std::ofstream(results, std::ios::binary) << whole.substr(0, length);
-            const Outcome resumed = Invoke({"rate", format, "--resume", results, list});
+        for (std::size_t length : {whole.out.size() / 2, whole.out.find('\n') + 1, std::size_t{0},
+                                   std::size_t{5}, whole.out.size() - 1, whole.out.size()}) {
+            std::ofstream(Results(), std::ios::binary) << whole.out.substr(0, length);
+            const Outcome resumed = run({"--resume", Results(), list});
             EXPECT_EQ(resumed.out, "");
-            EXPECT_EQ(content(results), whole) << length;
+            EXPECT_EQ(Content(), whole.out) << words[0] << length;
+            EXPECT_EQ(resumed.err, whole.err) << words[0] << length;
+            EXPECT_EQ(resumed.code, ExitCode::FaultyLine) << words[0] << length;
         }
     }
-    const std::string before = content(results);
-    const Outcome other = Invoke({"check", "--resume", results, kCorpus});
-    EXPECT_EQ(other.code, ExitCode::InputOutput);
-    EXPECT_NE(other.err.find(results + " holds the results of another list"), std::string::npos);
-    EXPECT_EQ(content(results), before);
+}
+
+TEST_F(PuzzleLists, AFileWithAnythingButRowsOfTheRunIsLeftAsItIs) {
+    const std::vector<std::string> lines = {WriteGrid81(test::PlainSolution()),
+                                            std::string(81, '.')};
+    const std::string list = WrittenList(lines);
+    const std::string rows = Invoke({"check", list}).out;
+    for (const std::string& content :
+         {std::string("secret"), std::string("secret\n"), rows + "secret", rows + "secret\n",
+          rows + rows.substr(0, 9), lines[0] + "\tunity\n", lines[0] + "\n" + lines[1],
+          Invoke({"rate", list}).out, Invoke({"solve", list}).out,
+          Invoke({"check", "--jsonl", list}).out}) {
+        std::ofstream(Results(), std::ios::binary) << content;
+        const Outcome refused = Invoke({"check", "--resume", Results(), list});
+        EXPECT_EQ(refused.code, ExitCode::InputOutput) << content;
+        EXPECT_NE(refused.err.find(Results() + " holds the results of another list"),
+                  std::string::npos)
+            << refused.err;
+        EXPECT_EQ(Content(), content);
+    }
     EXPECT_EQ(Invoke({"check", "--resume", folder_.Path().string(), list}).code,
               ExitCode::InputOutput);
 }
@@ -179,6 +230,15 @@ TEST_F(PuzzleLists, APuzzleThatTakesTooLongIsGivenUp) {
     EXPECT_EQ(given.out, outlaw + "\t0\ttimeout\t\t0\n");
     EXPECT_EQ(given.code, ExitCode::FaultyLine);
     EXPECT_NE(Invoke({"rate", "--timeout=600", "-"}, outlaw).out.find("Outlaw"), std::string::npos);
+
+    // More than 16,000 placements lie before its second solution.
+    const std::string slow =
+        "3...6.....9.8..7..6..4.....1...8..3..................2..2..4..88.3..1.2..4......1";
+    const Outcome word = Invoke({"solve", "--timeout=0.001", "-"}, slow);
+    EXPECT_EQ(word.out, slow + "\ttimeout\t\n");
+    EXPECT_EQ(word.code, ExitCode::FaultyLine);
+    EXPECT_EQ(Invoke({"solve", "--report", "--timeout=0.001", "-"}, slow).out,
+              slow + "\tThis Sudoku was given up\t\n");
     for (const char* wrong : {"--timeout=0", "--timeout=nan", "--timeout=2s", "--timeout=-1"}) {
         EXPECT_EQ(Invoke({"rate", wrong, "-"}).code, ExitCode::Usage) << wrong;
     }
