@@ -31,20 +31,12 @@ CommandResult RunExport(const Arguments& arguments, Streams& streams) {
         return UsageError(word ? "--format is no format: " + std::string(*word)
                                : "--format NAME is missing");
     }
-    if (!WriteResult(streams, ExportHeader(*format))) {
-        return {ExitCode::InputOutput};
-    }
-    const CommandResult result =
-        AnswerEachLine(arguments, streams, Working::AtOnce, [&](const InputLine& line) -> Answer {
-            const PositionLine read = ReadPositionLine(line.text);
-            return read.IsPosition() ? Answer{WriteExport(*format, read.grid)}
-                                     : Refusal(read.error);
-        });
-    // A file that is cut short is closed all the same.
-    const bool isWritten = result.code != ExitCode::InputOutput && result.code != ExitCode::Usage;
-    return isWritten && !WriteResult(streams, ExportFooter(*format))
-               ? CommandResult{ExitCode::InputOutput}
-               : result;
+    const auto write = [&](const InputLine& line) -> Answer {
+        const PositionLine read = ReadPositionLine(line.text);
+        return read.IsPosition() ? Answer{WriteExport(*format, read.grid)} : Refusal(read.error);
+    };
+    return AnswerEachLine(arguments, streams, Working::AtOnce, write,
+                          {ExportHeader(*format), ExportFooter(*format)});
 }
 
 }  // namespace

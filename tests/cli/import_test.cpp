@@ -59,6 +59,16 @@ TEST_F(ImportTest, EveryExportIsReadBack) {
             EXPECT_NE(imported.err.find("; 20 puzzles, 0 pieces rejected"), std::string::npos);
         }
     }
+    const std::string header(ExportHeader(ExportFormat::OpenSudoku));
+    const std::string footer(ExportFooter(ExportFormat::OpenSudoku));
+    EXPECT_EQ(Invoke({"export", "--format=opensudoku", "-"}).out, header + footer);
+    EXPECT_EQ(Invoke({"export", "--format=opensudoku", "-"}, "junk").out, header + footer);
+    for (const std::string& missing : {(folder_ / "none").string(), folder_.Path().string()}) {
+        const Outcome refused = Invoke({"export", "--format=opensudoku", missing});
+        EXPECT_EQ(refused.code, ExitCode::InputOutput);
+        EXPECT_EQ(refused.out, "") << "half a document";
+    }
+    EXPECT_EQ(Invoke({"export", "--format=csv", "--threads=0", "-"}, list).out, "");
     EXPECT_EQ(Invoke({"export", "--format=doc", "-"}, list).code, ExitCode::Usage);
     EXPECT_EQ(Invoke({"export", "-"}, list).code, ExitCode::Usage);
 }
