@@ -192,9 +192,10 @@ ExitCode TellEnding(const GeneratorCounts& counts, const GeneratorSettings& sett
     if (counts.ending == Ending::Complete) {
         return ExitCode::Fine;
     }
-    const char* reason = counts.ending == Ending::Tries  ? "all tries are used up: "
-                         : counts.ending == Ending::Time ? "the time is over: "
-                                                         : "interrupted: ";
+    const char* reason = counts.ending == Ending::Tries       ? "all tries are used up: "
+                         : counts.ending == Ending::Time      ? "the time is over: "
+                         : counts.ending == Ending::NoThreads ? "the system has no thread left: "
+                                                              : "interrupted: ";
     Tell(streams, reason + ProgressText(counts, settings));
     return counts.ending == Ending::Stopped ? ExitCode::Interrupted : ExitCode::FaultyLine;
 }

@@ -130,6 +130,10 @@ ExitCode WriteLevels(Streams& streams, Progress& progress, const Order& order,
     }
     const auto levels = MakeLevels(order.levels, ProgressOn(progress, streams, "Levels"));
     progress.Clear();
+    if (!levels && !streams.isInterrupted()) {
+        Tell(streams, "the system has no thread left");
+        return ExitCode::InputOutput;
+    }
     if (!levels) {
         return ExitCode::Interrupted;
     }

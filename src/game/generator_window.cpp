@@ -223,6 +223,8 @@ std::string GeneratorWindow::EndMessage() const {
         return "The time is up" + made;
     case Ending::Stopped:
         return "Stopped" + made;
+    case Ending::NoThreads:
+        return "The system has no thread left to search with" + made;
     case Ending::Complete:
     case Ending::None:
         break;

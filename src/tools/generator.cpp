@@ -10,10 +10,10 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
-#include <thread>
 #include <utility>
 
 #include "tools/canonical.h"
+#include "tools/threads.h"
 
 namespace vemo {
 namespace {
@@ -216,8 +216,7 @@ Generator::Work::Work(const GeneratorSettings& settings, int threads, std::set<D
       streams_(StreamsOf(settings)),
       deadline_(settings.mostTime.count() > 0 ? Clock::now() + settings.mostTime
                                               : Clock::time_point::max()),
-      known_(std::move(known)),
-      working_(threads) {
+      known_(std::move(known)) {
     for (std::size_t at = 0; at < streams_.size(); ++at) {
         const Stream& stream = streams_[at];
         for (int lane = 0; lane < LanesOf(stream.method); ++lane) {
@@ -225,8 +224,12 @@ Generator::Work::Work(const GeneratorSettings& settings, int threads, std::set<D
             lanes_.push_back({at, PuzzleSearch(seed, stream.method, stream.wish)});
         }
     }
-    for (int k = 0; k < threads; ++k) {
-        threads_.emplace_back([this] { RunWorker(); });
+    // The first one waits until it is known how many there are.
+    const std::lock_guard lock(mutex_);
+    threads_ = StartThreads(threads, [this] { RunWorker(); });
+    working_ = static_cast<int>(threads_.size());
+    if (threads_.empty()) {
+        End(Ending::NoThreads);
     }
 }
 

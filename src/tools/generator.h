@@ -48,6 +48,7 @@ enum class Ending : std::uint8_t {
     Tries,
     Time,
     Stopped,
+    NoThreads,  // the system had none left
 };
 
 struct GeneratorCounts {
@@ -58,9 +59,9 @@ struct GeneratorCounts {
 
 class Generator {
   public:
-    // Begins at once. The settings are free of errors; threads are 1 to kMostThreads. Puzzles
-    // equivalent to a known one, by their canonical forms, are not made again; nor is any made
-    // twice.
+    // Begins at once. The settings are free of errors; threads are 1 to kMostThreads, or as many
+    // as the system has left. Puzzles equivalent to a known one, by their canonical forms, are not
+    // made again; nor is any made twice.
     Generator(const GeneratorSettings& settings, int threads, std::set<Digits> known = {});
     // Stops, and waits for the workers' ends.
     ~Generator();

@@ -65,12 +65,13 @@ bool LevelMaker::Make(Symmetry symmetry) {
     bool isOver = false;
     while (!isOver) {
         generator.Wait(kBetweenTwoLooks);
-        isOver = generator.Counts().ending != Ending::None;
+        const Ending ending = generator.Counts().ending;
+        isOver = ending != Ending::None;
         for (const RatedPuzzle& rated : generator.Take()) {
             levels_[static_cast<std::size_t>(rated.rating) - 1].push_back(rated);
             known_.insert(CanonicalForm(rated.puzzle.clues, rated.puzzle.solution));
         }
-        if (!MayGoOn()) {
+        if (ending == Ending::NoThreads || !MayGoOn()) {
             return false;
         }
     }

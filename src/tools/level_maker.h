@@ -33,7 +33,7 @@ using MakerProgress = std::function<bool(int made, int wanted)>;
 // Half of the puzzles of the first five levels have a symmetry, each of the six as often. No two
 // are equivalent. The same settings make the same puzzles, with any number of threads. A level
 // stays short where its kind of puzzle is too rare for so many tries. Nothing where it was not to
-// go on.
+// go on, and where the system has no thread left.
 std::optional<LevelPuzzles> MakeLevels(const LevelSettings& settings,
                                        const MakerProgress& progress = {});
 

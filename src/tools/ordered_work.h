@@ -7,9 +7,9 @@
 #include <mutex>
 #include <optional>
 #include <stop_token>
-#include <thread>
 #include <utility>
-#include <vector>
+
+#include "tools/threads.h"
 
 namespace vemo {
 
@@ -56,30 +56,36 @@ void Serve(Shared<Item, Result>& shared, const OrderedWork<Item, Result>& order,
     }
 }
 
+template <typename Item, typename Result>
+void RunInTurn(const OrderedWork<Item, Result>& order) {
+    const std::stop_source never;
+    for (auto item = order.next(); item; item = order.next()) {
+        if (!order.give(*item, order.work(*item, never.get_token()))) {
+            return;
+        }
+    }
+}
+
 }  // namespace ordered_work
 
 // Runs to the last item, or until `give` has had enough: work under way is told to stop then, and
 // its results are dropped. With one thread each result is given before the next item is taken; with
-// more, some items are taken ahead. Items should be worth a few microseconds each.
+// more, some items are taken ahead. Where the system has fewer threads left, those that there are
+// do the work. Items should be worth a few microseconds each.
 template <typename Item, typename Result>
 void RunInOrder(int threads, const OrderedWork<Item, Result>& order) {
     if (threads <= 1) {
-        const std::stop_source never;
-        for (auto item = order.next(); item; item = order.next()) {
-            if (!order.give(*item, order.work(*item, never.get_token()))) {
-                return;
-            }
-        }
-        return;
+        return ordered_work::RunInTurn(order);
     }
     constexpr std::size_t kAheadOfAThread = 4;
     const std::size_t mostAhead = static_cast<std::size_t>(threads) * kAheadOfAThread;
     ordered_work::Shared<Item, Result> shared;
     std::deque<ordered_work::Job<Item, Result>> jobs;  // its items never move
     std::stop_source stop;
-    std::vector<std::jthread> workers;
-    for (int k = 0; k < threads; ++k) {
-        workers.emplace_back([&] { ordered_work::Serve(shared, order, stop.get_token()); });
+    const std::vector<std::jthread> workers =
+        StartThreads(threads, [&] { ordered_work::Serve(shared, order, stop.get_token()); });
+    if (workers.empty()) {
+        return ordered_work::RunInTurn(order);
     }
     bool goesOn = true;
     bool hasMore = true;

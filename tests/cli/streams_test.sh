@@ -47,6 +47,18 @@ if [[ -c /dev/full ]]; then
 fi
 Expect 'a closed pipe' 3 'cannot be written' WriteToClosedPipe
 
+# No thread can be started: none has room for a stack as large as this.
+WithoutThreads() { (ulimit -Ss 68719476736 && timeout 60 "$program" "$@" >"$scratch/out"); }
+if (ulimit -Ss 68719476736) 2>/dev/null; then
+    Expect 'a list without threads' 0 '' WithoutThreads check --threads 3 "$list"
+    cmp -s "$scratch/out" <("$program" check "$list") || Fail 'without threads: other results'
+    Expect 'a search without threads' 1 'no thread left' WithoutThreads generate --levels easy:1
+    mkdir "$scratch/levels"
+    Expect 'levels without threads' 3 'no thread left' \
+        WithoutThreads make-levels --levels 1:1 --output "$scratch/levels"
+    [[ -z $(ls "$scratch/levels") ]] || Fail 'without threads: level files'
+fi
+
 # A list in parts, two jobs at a time: what docs/batch.md shows.
 if command -v parallel >/dev/null; then
     (cd "$scratch" && grep -v '^#' "$list" | split --lines 150 --additional-suffix .part - list- &&
