@@ -238,6 +238,7 @@ ExitCode ImportFile(const std::string& name, const std::optional<RecordLayout>& 
         file.clear();
     }
     PuzzleSource source = layout ? PuzzleSource(in, *layout) : PuzzleSource(in);
+    source.StopWhen(streams.isInterrupted);
     const ExitCode code = import.Run(name, source);
     if (in.bad()) {
         Tell(streams, name + " cannot be read on" + SystemReason());

@@ -11,6 +11,8 @@ namespace vemo {
 namespace {
 
 constexpr std::string_view kGameTag = "<game";
+constexpr std::string_view kComment = "<!--";
+constexpr std::string_view kEndOfComment = "-->";
 constexpr std::string_view kEndOfXml = "</opensudoku";
 
 // The text goes on with a .opensudoku file: it is one line often, longer than any other may be.
@@ -38,12 +40,9 @@ bool IsRejection(const FoundPuzzles& found) {
     return !found.puzzles.front().error.empty();
 }
 
-// The length of the tag that the text begins with; nothing where it does not end in the text.
+// The length of the tag, no comment, that the text begins with; nothing where it does not end in
+// the text.
 std::optional<std::size_t> TagLength(std::string_view text) {
-    if (text.starts_with("<!--")) {
-        const std::size_t end = text.find("-->");
-        return end == text.npos ? std::nullopt : std::optional(end + 3);
-    }
     char quote = 0;
     for (std::size_t at = 0; at < text.size(); ++at) {
         const char character = text[at];
@@ -116,7 +115,12 @@ std::optional<ReadPiece> PuzzleSource::Next() {
         return piece;
     }
     while (ready_.empty() && !isRefused_ && !text_.Ahead().empty()) {
-        if (isInXml_) {
+        if (isStopped_ && isStopped_()) {
+            return std::nullopt;
+        }
+        if (isInLongLine_) {
+            PassLongLine();
+        } else if (isInXml_) {
             ReadTag();
         } else {
             ReadOn();
@@ -142,7 +146,8 @@ void PuzzleSource::ReadOn() {
     LineCursor next = here;
     const auto raw = next.Next();
     if (!raw || raw->size() >= kTextAhead) {
-        RejectLongLine();
+        Reject("a line of more than " + std::to_string(kTextAhead - 1) + " bytes");
+        isInLongLine_ = true;
         return;
     }
     std::string scratch;
@@ -168,15 +173,25 @@ void PuzzleSource::ReadOn() {
     text_.MoveOn(next.Offset());
 }
 
-void PuzzleSource::RejectLongLine() {
-    Reject("a line of more than " + std::to_string(kTextAhead - 1) + " bytes");
-    for (std::string_view ahead = text_.Ahead(); !ahead.empty(); ahead = text_.Ahead()) {
-        const std::size_t end = ahead.find_first_of("\r\n");
-        text_.MoveOn(std::min(end, ahead.size()));
-        if (end != ahead.npos) {
-            return;
-        }
+// As far as it is ahead.
+void PuzzleSource::PassLongLine() {
+    const std::string_view ahead = text_.Ahead();
+    const std::size_t end = ahead.find_first_of("\r\n");
+    isInLongLine_ = end == ahead.npos;
+    text_.MoveOn(std::min(end, ahead.size()));
+}
+
+// Of the comment that begins here; nothing where it does not end in the text ahead. What was looked
+// through before is not looked through again.
+std::optional<std::size_t> PuzzleSource::CommentLength(std::string_view ahead) {
+    const std::uint64_t here = text_.Offset();
+    const std::size_t from = std::max(noCommentEnd_, here) - here;
+    const std::size_t end = ahead.find(kEndOfComment, from);
+    if (end == ahead.npos) {
+        noCommentEnd_ = here + ahead.size() - std::min(ahead.size(), kEndOfComment.size() - 1);
+        return std::nullopt;
     }
+    return end + kEndOfComment.size();
 }
 
 // One tag and the text before it.
@@ -186,10 +201,13 @@ void PuzzleSource::ReadTag() {
     if (!ahead.starts_with('<')) {
         return;
     }
-    const std::optional<std::size_t> length = TagLength(ahead);
+    const std::optional<std::size_t> length =
+        ahead.starts_with(kComment) ? CommentLength(ahead) : TagLength(ahead);
     if (!length) {
         Reject("a tag that does not end");
-        text_.MoveOn(1);
+        // Where none ends, all are rejected as one but the last, which may end further on.
+        const bool hasNoEnd = ahead.find('>') == ahead.npos;
+        text_.MoveOn(hasNoEnd ? std::max(ahead.rfind('<'), std::size_t{1}) : 1);
         return;
     }
     const std::string_view tag = ahead.substr(0, *length);

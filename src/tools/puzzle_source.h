@@ -5,10 +5,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <istream>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "tools/file_formats.h"
@@ -31,8 +33,11 @@ class PuzzleSource {
     // A layout with a fault gives one piece that tells it.
     PuzzleSource(std::istream& in, const RecordLayout& layout);
 
-    // Nothing at the end of the stream, and from there on.
+    // Nothing at the end of the stream, and from there on; nor where it is to stop.
     std::optional<ReadPiece> Next();
+
+    // Asked now and then, also where no piece comes for gigabytes.
+    void StopWhen(std::function<bool()> isStopped) { isStopped_ = std::move(isStopped); }
 
     // What was understood so far, for the player: "lines of 81 and .sdk files"; empty as long as no
     // puzzle was found.
@@ -40,8 +45,9 @@ class PuzzleSource {
 
   private:
     void ReadOn();
-    void RejectLongLine();
+    void PassLongLine();
     void ReadTag();
+    std::optional<std::size_t> CommentLength(std::string_view ahead);
     void Take(FoundPuzzles found);
     void Reject(std::string error);
     void NoteFormat(FileFormat format);
@@ -50,9 +56,12 @@ class PuzzleSource {
     std::optional<RecordReader> records_;
     std::deque<ReadPiece> ready_;
     bool isRefused_ = false;  // for its layout: nothing is read
+    std::function<bool()> isStopped_;
+    bool isInLongLine_ = false;
     bool isInXml_ = false;
-    bool isBeforeFirst_ = true;  // nothing but blank lines and comments so far
-    std::uint32_t formats_ = 0;  // a bit for each FileFormat found
+    std::uint64_t noCommentEnd_ = 0;  // no comment of the XML ends before this offset
+    bool isBeforeFirst_ = true;       // nothing but blank lines and comments so far
+    std::uint32_t formats_ = 0;       // a bit for each FileFormat found
     std::string format_;
 };
 

@@ -78,6 +78,7 @@ void TextWindow::MoveOn(std::size_t bytes) {
         isAfterReturn_ = byte == '\r';
     }
     at_ += bytes;
+    offset_ += bytes;
 }
 
 std::optional<std::string_view> LineCursor::Next() {

@@ -25,6 +25,8 @@ class TextWindow {
     bool IsToEnd() const { return isAtEnd_; }
     // Forward by so many bytes, no more than are ahead.
     void MoveOn(std::size_t bytes);
+    // How many bytes were moved over.
+    std::uint64_t Offset() const { return offset_; }
     // The number of the line, from 1, that begins here or goes on here.
     std::int64_t Line() const { return line_; }
 
@@ -43,6 +45,7 @@ class TextWindow {
     bool isBegun_ = false;
     bool isAtEnd_ = false;
     bool isAfterReturn_ = false;  // the last byte moved over is CR: an LF now ends no further line
+    std::uint64_t offset_ = 0;
     std::int64_t line_ = 1;
 };
 

@@ -335,6 +335,31 @@ TEST(PuzzleSource, LinesAreCountedThroughALongFile) {
     EXPECT_EQ(PiecesOf(one), Pieces{"1: a line of more than 65535 bytes"});
 }
 
+TEST(PuzzleSource, TagsAndCommentsThatDoNotEndCostNoOtherPuzzleAndLittleTime) {
+    const std::string game = "<game data=\"" + With(kLine, '.', '0') + "\"/>";
+    const Pieces oneEach = {"1: a tag that does not end", "1: " + kLine};
+    const std::string far(200'000, ' ');
+    EXPECT_EQ(Read("<opensudoku><!-- " + far + "<!-- <game data=\"\"/> -->" + game), oneEach);
+    // The end of what is ahead lies in the game.
+    for (std::size_t length = 3 * kTextAhead / 2 - 100; length < 3 * kTextAhead / 2; length += 20) {
+        EXPECT_EQ(Read("<opensudoku><" + far.substr(0, length) + game), oneEach) << length;
+    }
+    const Pieces pieces = Read("<opensudoku>" + std::string(1 << 22, '<') + ">" + game);
+    EXPECT_LT(pieces.size(), 200u);
+    EXPECT_EQ(pieces.back(), "1: " + kLine);
+}
+
+TEST(PuzzleSource, ItStopsAlsoWhereNoPieceComes) {
+    for (const char* text : {"\n", "1"}) {
+        Repeated endless(std::string(1 << 16, *text), 1 << 30);
+        std::istream in(&endless);
+        PuzzleSource source(in);
+        int left = 100;
+        source.StopWhen([&] { return --left < 0; });
+        EXPECT_LE(PiecesOf(source).size(), 1u);
+    }
+}
+
 std::vector<std::string> ReadRecords(const std::string& bytes, const RecordLayout& layout) {
     std::istringstream in(bytes);
     PuzzleSource source(in, layout);
