@@ -36,11 +36,16 @@ TableReading::TableReading(std::filesystem::path path, std::optional<RecordLayou
       thread_([this](const std::stop_token& stop) { Run(stop); }) {}
 
 void TableReading::Run(const std::stop_token& stop) {
-    errno = 0;
-    std::ifstream file(path_, std::ios::binary);
     std::error_code none;
-    // A folder opens, and fails at the first byte; a pipe would never end.
-    if (!file || !std::filesystem::is_regular_file(path_, none)) {
+    const auto status = std::filesystem::status(path_, none);
+    std::ifstream file;
+    errno = 0;
+    // A folder opens, and fails at the first byte; a pipe waits for somebody who writes. Why a
+    // file is not there, opening it tells.
+    if (std::filesystem::is_regular_file(status) || !std::filesystem::exists(status)) {
+        file.open(path_, std::ios::binary);
+    }
+    if (!file.is_open()) {
         failure_ = Utf8(path_) + ": cannot be read" + Reason();
     } else {
         size_ = std::filesystem::file_size(path_, none);
@@ -54,6 +59,7 @@ void TableReading::Run(const std::stop_token& stop) {
 
 void TableReading::Read(std::istream& in, const std::stop_token& stop) {
     PuzzleSource source = layout_ ? PuzzleSource(in, *layout_) : PuzzleSource(in);
+    source.StopWhen([&] { return stop.stop_requested(); });
     std::vector<Piece> pieces;
     auto read = source.Next();
     while (read && !stop.stop_requested()) {
