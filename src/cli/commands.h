@@ -57,6 +57,11 @@ inline constexpr Option kQuietOption = {"--quiet", "", "show no progress"};
 inline constexpr Option kThreadsOption = {"--threads", "N",
                                           "how many threads work (one a core; 1 for a pipe)"};
 
+// Of commands that add to level files.
+inline constexpr std::string_view kOneWriterNote =
+    "One program at a time may add to a level file: two that do so at once, the game among\n"
+    "them, can write over each other's puzzle.\n";
+
 // How the input is described in their help.
 inline constexpr std::string_view kListNotes =
     "FILE holds one of them a line; \"-\" is standard input. Blank lines and lines that\n"

@@ -47,9 +47,10 @@ std::string Notes() {
     for (const SymmetryRow& row : Symmetries()) {
         notes.append(" ").append(row.word);
     }
-    return notes.append(
+    notes.append(
         ".\nSLOT needs: the techniques up to the puzzle's hardest do not solve it without this\n"
         "one. Slots are numbered as in vemosud rate --order.\n");
+    return notes.append(kOneWriterNote);
 }
 
 struct Order {

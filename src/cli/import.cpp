@@ -33,15 +33,17 @@ constexpr Option kOptions[] = {kPositionsOption, kUniqueOption, kIntoOption,  kR
 constexpr std::size_t kPiecesAtOnce = 32;
 
 std::string Notes() {
-    return "Understands lines of 81 with any sign for an empty cell, nine rows with or without\n"
-           "borders, grids of pencil marks, lines of 729, library lines, the files .sdk, .sdx,\n"
-           ".sdm, .ss and .opensudoku, tables with commas or tabs, and addresses, also mixed in\n"
-           "one file; FILE - is standard input. With --record the file holds records of a\n"
-           "length. Writes one puzzle a line. A piece that is none gets a message with its line\n"
-           "and the reason; in the end a message says what was understood.\n"
-           "With --into, each puzzle goes to the level file of its rating, unless it or an\n"
-           "equivalent one is in one of the nine; one line a puzzle that was added: puzzle TAB\n"
-           "level number TAB level name TAB hardest technique TAB steps TAB number.\n";
+    std::string notes =
+        "Understands lines of 81 with any sign for an empty cell, nine rows with or without\n"
+        "borders, grids of pencil marks, lines of 729, library lines, the files .sdk, .sdx,\n"
+        ".sdm, .ss and .opensudoku, tables with commas or tabs, and addresses, also mixed in\n"
+        "one file; FILE - is standard input. With --record the file holds records of a\n"
+        "length. Writes one puzzle a line. A piece that is none gets a message with its line\n"
+        "and the reason; in the end a message says what was understood.\n"
+        "With --into, each puzzle goes to the level file of its rating, unless it or an\n"
+        "equivalent one is in one of the nine; one line a puzzle that was added: puzzle TAB\n"
+        "level number TAB level name TAB hardest technique TAB steps TAB number.\n";
+    return notes.append(kOneWriterNote);
 }
 
 // The layout that the options describe; a message where they do not.

@@ -33,9 +33,8 @@ std::string Notes() {
            "export  writes the puzzles of a level file, one a line.\n"
            "import  adds the puzzles of LIST to a level file, which it makes where there is\n"
            "        none; one without exactly one solution gets a message and stays out. One\n"
-           "        line a puzzle: puzzle TAB its number in the file.\n"
-           "\n" +
-           std::string(kPuzzleNotes).append(kListNotes);
+           "        line a puzzle: puzzle TAB its number in the file.\n" +
+           std::string(kOneWriterNote).append("\n").append(kPuzzleNotes).append(kListNotes);
 }
 
 int LevelOfFile(const std::filesystem::path& path) {
