@@ -39,7 +39,7 @@ std::string Notes() {
            "the game, in about half an hour. Where the puzzles of a level are too rare for so\n"
            "many tries, its file stays short, and the exit code is 1. A folder with a player's\n"
            "progress in it is left alone. Tells of each file that it wrote the name TAB the\n"
-           "number of puzzles. An interrupt leaves all files as they are.\n"
+           "number of puzzles. An interrupt ends it with no further file written.\n"
            "\n" +
            std::string(kLevelCountsNotes);
 }

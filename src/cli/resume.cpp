@@ -6,6 +6,11 @@
 #include <ios>
 
 namespace vemo {
+namespace {
+
+constexpr std::size_t kShownOfRow = 120;
+
+}  // namespace
 
 Resume::Resume(const std::string& path) : path_(path) {
     std::error_code error;
@@ -25,14 +30,14 @@ Resume::Resume(const std::string& path) : path_(path) {
 }
 
 std::optional<RowBeginning> Resume::Next(const RowBeginnings& beginnings) {
-    std::string row;
+    std::string text;
     errno = 0;
-    if (!error_.empty() || !rows_.is_open() || !std::getline(rows_, row)) {
+    if (!error_.empty() || !rows_.is_open() || !std::getline(rows_, text)) {
         error_ = rows_.bad() ? path_ + " cannot be read" + SystemReason() : error_;
         return std::nullopt;
     }
     const bool isWhole = !rows_.eof();
-    row += isWhole ? "\n" : "";
+    const std::string row = text + (isWhole ? "\n" : "");
     for (const RowBeginning& beginning : beginnings) {
         if (isWhole && row.starts_with(beginning.text)) {
             wholeLength_ += row.size();
@@ -43,7 +48,8 @@ std::optional<RowBeginning> Resume::Next(const RowBeginnings& beginnings) {
             return std::nullopt;
         }
     }
-    error_ = path_ + " holds the results of another list, or of another command: " + row;
+    error_ = path_ + " holds the results of another list, or of another command: " +
+             text.substr(0, kShownOfRow);
     return std::nullopt;
 }
 
@@ -52,6 +58,7 @@ void Resume::GoOn() {
     if (!error_.empty()) {
         return;
     }
+    rows_.close();
     if (hasCutRow_) {
         std::filesystem::resize_file(path_, wholeLength_, error);
     }
