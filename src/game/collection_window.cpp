@@ -117,7 +117,9 @@ void CollectionWindow::LookAtFirst() {
 }
 
 std::vector<ReadPiece> CollectionWindow::PreviewOf(const RecordLayout& layout) const {
-    if (paths_.empty() || !LayoutFault(layout).empty()) {
+    std::error_code none;
+    if (paths_.empty() || !LayoutFault(layout).empty() ||
+        !std::filesystem::is_regular_file(paths_.front(), none)) {  // a pipe would never open
         return {};
     }
     std::ifstream file(paths_.front(), std::ios::binary);

@@ -34,7 +34,7 @@ class ScratchFile {
 
     mutable std::mutex mutex_;
     std::filesystem::path folder_;
-    std::vector<char> buffer_;  // of the file, which goes first
+    std::vector<char> buffer_;                 // of the file, which goes first
     std::unique_ptr<std::FILE, Closer> file_;  // made by the first call that appends
     std::uint64_t size_ = 0;
 };
