@@ -133,9 +133,9 @@ void CopyBoard(Stage& stage) {
 }
 
 void GiveTextBack(Session& session) {
-    const std::string placeholder = DoubleClickText();
-    if (session.hint && session.textHint.starts_with(placeholder)) {
-        session.textHint.replace(0, placeholder.size(), HintText(*session.hint));
+    const std::string pointer = DoubleClickText();
+    if (session.hint && session.textHint.starts_with(pointer)) {
+        session.textHint.replace(0, pointer.size(), HintText(*session.hint));
     }
 }
 
